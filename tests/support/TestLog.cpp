@@ -1,0 +1,82 @@
+#include "TestLog.h"
+
+#include <QMutex>
+#include <QMutexLocker>
+
+#include <cstdio>
+
+namespace TestLog {
+
+namespace {
+
+struct State {
+    QMutex mutex;
+    QList<QRegularExpression> expected;
+    QStringList unexpected;
+    QStringList infos;
+};
+
+State &state()
+{
+    static State s;
+    return s;
+}
+
+void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    State &s = state();
+    QMutexLocker lock(&s.mutex);
+    if (type == QtInfoMsg) {
+        s.infos << text;
+        return;
+    }
+    if (type == QtDebugMsg)
+        return;
+    for (const QRegularExpression &pattern : s.expected) {
+        if (pattern.match(text).hasMatch())
+            return;
+    }
+    std::fprintf(stderr, "unexpected message: %s\n", qPrintable(text));
+    s.unexpected << text;
+}
+
+} // namespace
+
+void install()
+{
+    qInstallMessageHandler(handle);
+}
+
+void expectWarning(const QRegularExpression &pattern)
+{
+    State &s = state();
+    QMutexLocker lock(&s.mutex);
+    s.expected << pattern;
+}
+
+QStringList takeUnexpected()
+{
+    State &s = state();
+    QMutexLocker lock(&s.mutex);
+    QStringList lines;
+    lines.swap(s.unexpected);
+    return lines;
+}
+
+QStringList infoLines()
+{
+    State &s = state();
+    QMutexLocker lock(&s.mutex);
+    return s.infos;
+}
+
+void reset()
+{
+    State &s = state();
+    QMutexLocker lock(&s.mutex);
+    s.expected.clear();
+    s.unexpected.clear();
+    s.infos.clear();
+}
+
+} // namespace TestLog

@@ -1,0 +1,50 @@
+// main() of every test program: a home folder of its own, the offscreen platform unless a display was asked
+// for, and Qt's messages watched.
+#include "TestLog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+class MessageWatcher final : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo &) override { TestLog::reset(); }
+    void OnTestEnd(const testing::TestInfo &) override
+    {
+        const QStringList lines = TestLog::takeUnexpected();
+        for (const QString &line : lines)
+            ADD_FAILURE() << "unexpected message: " << qPrintable(line);
+    }
+};
+
+void moveHomeTo(const QString &folder)
+{
+    // Documents and pictures follow HOME; user-dirs.dirs of the real home must not be read.
+    qputenv("HOME", folder.toUtf8());
+    qputenv("XDG_DATA_HOME", (folder + "/data").toUtf8());
+    qputenv("XDG_CONFIG_HOME", (folder + "/config").toUtf8());
+    qputenv("XDG_CACHE_HOME", (folder + "/cache").toUtf8());
+    for (const char *name : {"/data", "/config", "/cache", "/Documents", "/Pictures"})
+        QDir().mkpath(folder + name);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    QTemporaryDir home;
+    moveHomeTo(home.path());
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsEmpty("QUORIN_TEST_DISPLAY") ? "offscreen" : "xcb");
+    TestLog::install();
+    testing::UnitTest::GetInstance()->listeners().Append(new MessageWatcher);
+    QApplication app(argc, argv);
+    app.setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

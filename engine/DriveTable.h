@@ -1,0 +1,37 @@
+// What stands behind a drive letter: an optical drive of this machine, or a device, an image or a disc folder
+// that was bound to the letter.
+//
+// A bound letter hides the machine's own. Every operation may be called from any thread.
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <string>
+#include <vector>
+
+class DriveTable final {
+public:
+    DriveTable() = default;
+    DriveTable(const DriveTable &) = delete;
+    DriveTable &operator=(const DriveTable &) = delete;
+
+    // Path behind a drive name ("D", "D:", "D:/", "D:\"), empty when no drive has the letter. Any other text
+    // is a path already and comes back as it is.
+    [[nodiscard]] std::string resolve(const std::string &pathOrLetter) const;
+
+    // Puts a device, an image or a folder behind a letter; an empty path forgets it. What is no letter is
+    // ignored.
+    void bind(char letter, std::string path);
+
+    // True for a letter with something behind it.
+    [[nodiscard]] bool hasDrive(char letter) const;
+
+    // Upper-case letter that a drive name stands for, 0 for a path.
+    [[nodiscard]] static char letterOf(const std::string &pathOrLetter);
+
+private:
+    std::string opticalDrive(char letter) const;
+
+    mutable std::mutex m_mutex;
+    std::map<char, std::string> m_bound;
+};

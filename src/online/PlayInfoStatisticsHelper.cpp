@@ -1,0 +1,7 @@
+#include "PlayInfoStatisticsHelper.h"
+
+PlayInfoStatisticsHelper *PlayInfoStatisticsHelper::instance()
+{
+    static auto *helper = new PlayInfoStatisticsHelper;
+    return helper;
+}

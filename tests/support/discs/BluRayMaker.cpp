@@ -10,7 +10,8 @@ namespace {
 
 constexpr std::uint16_t VideoPid = 0x1011;
 constexpr std::uint16_t FirstAudioPid = 0x1100;
-constexpr std::uint16_t PcrPid = 0x1001;
+// The encoder times its streams by the video.
+constexpr std::uint16_t PcrPid = VideoPid;
 constexpr std::uint16_t MapPid = 0x0100;
 constexpr const char *Languages[] = {"eng", "deu"};
 constexpr int AudioCount = 2;
@@ -69,57 +70,18 @@ Bytes audioAttributes(int index)
 
 bool encodeClip(const QString &file, int durationMs, const QString &pattern)
 {
-    const QString seconds = QString::number(durationMs / 1000.0);
-    return DiscWorkshop::run(QStringLiteral("ffmpeg"),
-                             {"-v",
-                              "error",
-                              "-y",
-                              "-nostdin",
-                              "-f",
-                              "lavfi",
-                              "-i",
-                              QStringLiteral("%1=size=%2x%3:rate=25:duration=%4")
-                                  .arg(pattern)
-                                  .arg(TestDiscs::BluRayWidth)
-                                  .arg(TestDiscs::BluRayHeight)
-                                  .arg(seconds),
-                              "-f",
-                              "lavfi",
-                              "-i",
-                              QStringLiteral("sine=frequency=440:sample_rate=48000:duration=%1").arg(seconds),
-                              "-f",
-                              "lavfi",
-                              "-i",
-                              QStringLiteral("sine=frequency=880:sample_rate=48000:duration=%1").arg(seconds),
-                              "-map",
-                              "0:v",
-                              "-map",
-                              "1:a",
-                              "-map",
-                              "2:a",
-                              "-c:v",
-                              "libx264",
-                              "-preset",
-                              "veryfast",
-                              "-pix_fmt",
-                              "yuv420p",
-                              "-g",
-                              "25",
-                              "-bf",
-                              "0",
-                              "-threads",
-                              "1",
-                              "-c:a",
-                              "ac3",
-                              "-b:a",
-                              "128k",
-                              "-ac",
-                              "2",
-                              "-f",
-                              "mpegts",
-                              "-mpegts_m2ts_mode",
-                              "1",
-                              file});
+    const QString arguments =
+        QStringLiteral(
+            "-v error -y -nostdin -f lavfi -i %1=size=%2x%3:rate=25:duration=%4 "
+            "-f lavfi -i sine=frequency=440:sample_rate=48000:duration=%4 "
+            "-f lavfi -i sine=frequency=880:sample_rate=48000:duration=%4 "
+            "-map 0:v -map 1:a -map 2:a -c:v libx264 -preset veryfast -pix_fmt yuv420p -g 25 -bf 0 "
+            "-threads 1 -c:a ac3 -b:a 128k -ac 2 -f mpegts -mpegts_m2ts_mode 1 -muxdelay 0 -muxpreload 0")
+            .arg(pattern)
+            .arg(TestDiscs::BluRayWidth)
+            .arg(TestDiscs::BluRayHeight)
+            .arg(durationMs / 1000.0);
+    return DiscWorkshop::run(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' ')) + QStringList(file));
 }
 
 QByteArray clipInformation(const TransportClip &clip, const QByteArray &version)

@@ -13,30 +13,18 @@ namespace {
 // One title as a program stream with two sound tracks.
 bool encodeTitle(const QString &file, int durationMs, const QString &pattern)
 {
-    const QString seconds = QString::number(durationMs / 1000.0);
-    const QString size = QStringLiteral("%1x%2").arg(TestDiscs::DvdWidth).arg(TestDiscs::DvdHeight);
-    return DiscWorkshop::run(
-        QStringLiteral("ffmpeg"),
-        {"-v",       "error",
-         "-y",       "-nostdin",
-         "-f",       "lavfi",
-         "-i",       QStringLiteral("%1=size=%2:rate=25:duration=%3").arg(pattern, size, seconds),
-         "-f",       "lavfi",
-         "-i",       QStringLiteral("sine=frequency=440:sample_rate=48000:duration=%1").arg(seconds),
-         "-f",       "lavfi",
-         "-i",       QStringLiteral("sine=frequency=880:sample_rate=48000:duration=%1").arg(seconds),
-         "-map",     "0:v",
-         "-map",     "1:a",
-         "-map",     "2:a",
-         "-target",  "pal-dvd",
-         "-s",       size,
-         "-b:v",     "900k",
-         "-g",       "12",
-         "-c:a",     "ac3",
-         "-b:a",     "128k",
-         "-ac",      "2",
-         "-threads", "1",
-         file});
+    const QString arguments =
+        QStringLiteral(
+            "-v error -y -nostdin -f lavfi -i %1=size=%2x%3:rate=25:duration=%4 "
+            "-f lavfi -i sine=frequency=440:sample_rate=48000:duration=%4 "
+            "-f lavfi -i sine=frequency=880:sample_rate=48000:duration=%4 "
+            "-map 0:v -map 1:a -map 2:a -target pal-dvd -s %2x%3 -b:v 900k -g 12 -c:a ac3 -b:a 128k "
+            "-ac 2 -threads 1")
+            .arg(pattern)
+            .arg(TestDiscs::DvdWidth)
+            .arg(TestDiscs::DvdHeight)
+            .arg(durationMs / 1000.0);
+    return DiscWorkshop::run(QStringLiteral("ffmpeg"), arguments.split(QLatin1Char(' ')) + QStringList(file));
 }
 
 // The subtitle's picture may have four colours, the transparent ground among them.

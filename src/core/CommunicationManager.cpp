@@ -1,0 +1,7 @@
+#include "CommunicationManager.h"
+
+CommunicationManager::CommunicationManager()
+{
+    qRegisterMetaType<UpdateStatus>("UpdateStatus");
+    qRegisterMetaType<SendMsgType>("SendMsgType");
+}

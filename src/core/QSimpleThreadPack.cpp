@@ -1,0 +1,44 @@
+#include "QSimpleThreadPack.h"
+
+#include <QDebug>
+
+#include <exception>
+
+QSimpleThreadPack::QSimpleThreadPack(QObject *parent)
+    : QThread(parent)
+{
+}
+
+QSimpleThreadPack::QSimpleThreadPack(Function function, void *argument, QObject *parent)
+    : QThread(parent)
+    , fn(function)
+    , arg(argument)
+{
+}
+
+QSimpleThreadPack::~QSimpleThreadPack()
+{
+    wait();
+}
+
+bool QSimpleThreadPack::setFunction(Function function, void *argument)
+{
+    if (isRunning())
+        return false;
+    fn = function;
+    arg = argument;
+    return true;
+}
+
+void QSimpleThreadPack::run()
+{
+    if (!fn)
+        return;
+    try {
+        fn(arg);
+    } catch (const std::exception &error) {
+        qInfo() << "[Process] one-shot thread ended by an error:" << error.what();
+    } catch (...) {
+        qInfo() << "[Process] one-shot thread ended by an unknown error";
+    }
+}

@@ -1,0 +1,180 @@
+#include "SingleApplication.h"
+
+#include "InstanceMessage.h"
+#include "LocalPeer.h"
+#include "ServerNameProbe.h"
+#include "ThreadWorker.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QLockFile>
+
+namespace {
+
+constexpr int kMaxPeers = 32;
+constexpr int kRetryMs = 500;
+constexpr int kLockWaitMs = 1000;
+constexpr int kAnswerType = static_cast<int>(UpdateStatus::NewVersion);
+
+} // namespace
+
+SingleApplication::SingleApplication(int &argc, char **argv)
+    : QApplication(argc, argv)
+    , server(new QLocalServer(this))
+    , serverName(QString::fromLatin1(InstanceMessage::ServerName))
+{
+    connect(server, &QLocalServer::newConnection, this, &SingleApplication::slot_newLocalConnection);
+    CommunicationManager *hub = CommunicationManager::instance();
+    connect(hub, &CommunicationManager::SIG_sendMsgToUpdate, this, &SingleApplication::SLOT_sendMsgToUpdate);
+    connect(hub, &CommunicationManager::SIG_sendChangeBkImg, this, &SingleApplication::SLOT_sendBkImgChanged);
+    m_retry.setInterval(kRetryMs);
+    connect(&m_retry, &QTimer::timeout, this, &SingleApplication::claimServer);
+    listen();
+}
+
+SingleApplication::~SingleApplication()
+{
+    m_retry.stop();
+    // Peers are children too, and must not report to a half-destroyed object.
+    qDeleteAll(findChildren<LocalPeer *>(QString(), Qt::FindDirectChildrenOnly));
+    if (server->isListening())
+        server->close();
+    delete server;
+}
+
+bool SingleApplication::isListening() const
+{
+    return server->isListening();
+}
+
+// The name of a live copy is never taken away: a socket file is removed only when nobody answers behind it,
+// and two copies that start at once do this one after the other.
+void SingleApplication::listen()
+{
+    QLockFile lock(QDir::tempPath() + QLatin1Char('/') + serverName + QStringLiteral(".lock"));
+    lock.tryLock(kLockWaitMs);
+    isRunning = probeServerName(serverName, timeoutMs) == ServerState::Alive;
+    if (isRunning)
+        return;
+    if (!server->listen(serverName) && server->serverError() == QAbstractSocket::AddressInUseError) {
+        QLocalServer::removeServer(serverName);
+        server->listen(serverName);
+    }
+    if (!server->isListening())
+        qInfo() << "[Process] local server does not listen:" << server->errorString();
+}
+
+void SingleApplication::claimServer()
+{
+    if (!server->isListening())
+        listen();
+    if (server->isListening())
+        m_retry.stop();
+    else
+        m_retry.start();
+}
+
+void SingleApplication::releaseServer()
+{
+    m_retry.stop();
+    if (server->isListening())
+        server->close();
+}
+
+void SingleApplication::setOutsideSourceSink(std::function<void()> sink)
+{
+    m_outsideSource = std::move(sink);
+}
+
+void SingleApplication::slot_newLocalConnection()
+{
+    while (QLocalSocket *socket = server->nextPendingConnection()) {
+        if (findChildren<LocalPeer *>(QString(), Qt::FindDirectChildrenOnly).size() >= kMaxPeers) {
+            socket->abort();
+            socket->deleteLater();
+            continue;
+        }
+        auto *peer = new LocalPeer(socket, {}, this);
+        connect(peer, &LocalPeer::complete, this, &SingleApplication::slot_socketReadyRead);
+    }
+}
+
+void SingleApplication::slot_socketReadyRead()
+{
+    auto *peer = qobject_cast<LocalPeer *>(sender());
+    if (!peer)
+        return;
+    const InstanceMessage::Parsed message = InstanceMessage::parse(peer->text());
+    switch (message.kind) {
+    case InstanceMessage::Kind::BrokenTag:
+        qInfo() << "[Process] message of the updater not understood";
+        peer->close();
+        return;
+    case InstanceMessage::Kind::Tagged:
+        passOn(message.type);
+        peer->close();
+        return;
+    case InstanceMessage::Kind::Activate:
+        emit signal_otherWantRunning();
+        break;
+    case InstanceMessage::Kind::Text:
+        playIfFile(message.payload);
+        break;
+    }
+    peer->answerAndClose(InstanceMessage::Greeting);
+}
+
+// The test of the path may wait for a drive to spin up or for a network that is gone.
+void SingleApplication::playIfFile(const QString &path)
+{
+    if (!m_fileTest)
+        m_fileTest = new ThreadWorker(1, this);
+    const auto isFile = std::make_shared<bool>(false);
+    m_fileTest->addTask([isFile, path] { *isFile = QFileInfo(path).isFile(); },
+                        [this, isFile, path] {
+                            if (!*isFile)
+                                return;
+                            if (m_outsideSource)
+                                m_outsideSource();
+                            emit signal_playOutFile(path);
+                            emit signal_otherWantRunning();
+                        });
+}
+
+void SingleApplication::passOn(int type)
+{
+    if (type < static_cast<int>(UpdateStatus::Checking) || type > static_cast<int>(UpdateStatus::Failed))
+        return;
+    emit CommunicationManager::instance()->SIG_updateStatusIsChanged(static_cast<UpdateStatus>(type));
+    if (type == kAnswerType)
+        SLOT_sendMsgToUpdate(SendMsgType::Answer);
+}
+
+void SingleApplication::SLOT_sendMsgToUpdate(SendMsgType type)
+{
+    sendToUpdater(InstanceMessage::tagged(type));
+}
+
+void SingleApplication::SLOT_sendBkImgChanged(QString imgPath)
+{
+    sendToUpdater(InstanceMessage::tagged(SendMsgType::BackgroundImage, imgPath));
+}
+
+// Written when the connection is there; an updater that does not take it within the time is given up
+// silently.
+void SingleApplication::sendToUpdater(const QString &text)
+{
+    auto *socket = new QLocalSocket(this);
+    connect(socket, &QLocalSocket::connected, socket, [socket, text] {
+        socket->write(text.toLocal8Bit());
+        socket->flush();
+        socket->disconnectFromServer();
+    });
+    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+    connect(socket, &QLocalSocket::errorOccurred, socket, &QObject::deleteLater);
+    QTimer::singleShot(timeoutMs, socket, &QObject::deleteLater);
+    socket->connectToServer(QString::fromLatin1(InstanceMessage::UpdaterServerName), QIODevice::ReadWrite);
+}

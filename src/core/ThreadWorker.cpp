@@ -1,0 +1,74 @@
+#include "ThreadWorker.h"
+
+#include "Noticeer.h"
+#include "TaskQueue.h"
+#include "Worker.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QThread>
+
+ThreadWorker::ThreadWorker(int threadCount, QObject *parent)
+    : QObject(parent)
+    , m_noticeer(new Detail::Noticeer(this))
+    , m_queue(std::make_shared<Detail::TaskQueue>(m_noticeer))
+{
+    connect(m_noticeer, &Detail::Noticeer::signal_taskFinished, this, &ThreadWorker::signal_taskFinished);
+    setThreadCount(threadCount);
+}
+
+ThreadWorker::~ThreadWorker()
+{
+    stop();
+}
+
+void ThreadWorker::setThreadCount(int threadCount)
+{
+    while (static_cast<int>(m_threads.size()) < threadCount)
+        startThread();
+}
+
+void ThreadWorker::startThread()
+{
+    PoolThread made;
+    made.thread = new QThread;
+    made.worker = new Detail::Worker(m_queue);
+    made.worker->moveToThread(made.thread);
+    connect(made.thread, &QThread::started, made.worker, &Detail::Worker::slot_run);
+    made.thread->start();
+    m_threads.push_back(made);
+}
+
+quint64 ThreadWorker::addTask(std::function<void()> work, std::function<void()> done)
+{
+    const quint64 id = ++m_lastId;
+    if (work)
+        m_queue->add({id, std::move(work), std::move(done)});
+    return id;
+}
+
+bool ThreadWorker::stopRequested()
+{
+    return QThread::currentThread()->isInterruptionRequested();
+}
+
+bool ThreadWorker::stop(int timeoutMs)
+{
+    m_queue->stop();
+    for (const PoolThread &pool : m_threads)
+        pool.thread->requestInterruption();
+    const QDeadlineTimer deadline(timeoutMs);
+    bool all = true;
+    for (const PoolThread &pool : m_threads) {
+        if (pool.thread->wait(deadline)) {
+            delete pool.worker;
+            delete pool.thread;
+        } else {
+            // Deleting a running thread would end the process; what it uses is its own.
+            qInfo() << "[Process] a worker does not end and is left behind";
+            all = false;
+        }
+    }
+    m_threads.clear();
+    return all;
+}

@@ -31,6 +31,11 @@ void moveHomeTo(const QString &folder)
     qputenv("XDG_CACHE_HOME", (folder + "/cache").toUtf8());
     for (const char *name : {"/data", "/config", "/cache", "/Documents", "/Pictures"})
         QDir().mkpath(folder + name);
+    // Sockets and shared memory keys follow these two: tests that run side by side must not meet.
+    QDir().mkpath(folder + "/run");
+    QFile::setPermissions(folder + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", (folder + "/run").toUtf8());
+    qputenv("TMPDIR", folder.toUtf8());
 }
 
 } // namespace

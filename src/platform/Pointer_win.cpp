@@ -1,0 +1,8 @@
+#include "Pointer.h"
+
+#include <windows.h>
+
+void Pointer::show()
+{
+    ShowCursor(TRUE);
+}

@@ -1,0 +1,8 @@
+#include "SystemLanguage.h"
+
+#include <QLocale>
+
+SystemLanguageId systemLanguage()
+{
+    return SystemLanguageId::fromLocale(QLocale::system());
+}

@@ -14,6 +14,19 @@ enum VD_ErrorCallbackType : int {
     VD_Error_ShaderInvalid = 20005            // the custom shader did not compile and is off
 };
 
+// Why a source could not be played, first argument of IVDPlayCallback::OnPlayBackFailed().
+enum VD_PlayError : int {
+    VD_PlayError_None = 0,
+    VD_PlayError_NotFound = 1,       // nothing stands at the path, or no such title
+    VD_PlayError_NoAccess = 2,       // it may not be read, or is no file, folder or disc
+    VD_PlayError_UnknownFormat = 3,  // no media, or a list of other files
+    VD_PlayError_NoStream = 4,       // media, but nothing in it can be decoded
+    VD_PlayError_DiscUnreadable = 5, // no disc structure, or one that cannot be read
+    VD_PlayError_TimedOut = 6,       // no answer in time
+    VD_PlayError_Broken = 7,         // the source ended with an error while it played
+    VD_PlayError_NoEngine = 8        // playback could not be set up
+};
+
 // What happened in an optical drive. 2 and 4 both mean that the disc is gone.
 enum VD_OPTRA_DISC_NOTIFY_TYPE : int {
     VD_Disc_Unknown = 0,

@@ -1,0 +1,497 @@
+#include "PlaySession.h"
+
+#include "EngineLog.h"
+#include "PcmTap.h"
+#include "ResumeMemory.h"
+#include "SourceProbe.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using namespace libvp;
+
+constexpr std::uint64_t firstReply = 1000; // rows of the property table use the numbers below
+constexpr auto discOpenLimit = 20000ms;    // a drive has to spin up first
+constexpr auto recordLimit = 1500ms;
+constexpr auto frameLimit = 600ms;
+constexpr auto terminateLimit = 3500ms;
+constexpr double idleWait = 30; // seconds
+
+} // namespace
+
+PlaySession::PlaySession(const PlayContext &context, IVDPlayCallback *callback, OpenRequest request)
+    : m_context(context)
+    , m_callback(callback)
+    , m_request(std::move(request))
+    , m_line(context.notifier->openLine())
+    , m_lastReply(firstReply)
+    , m_seeks([this](const SeekQueue::Seek &seek) { startSeek(seek); })
+    , m_speed(*this, !m_request.autoStart)
+{
+}
+
+PlaySession::~PlaySession() = default;
+
+void PlaySession::start()
+{
+    m_asked = EngineThread::Clock::now();
+    m_worker = std::thread([this] { run(); });
+}
+
+void PlaySession::end()
+{
+    if (m_ended)
+        return;
+    m_ended = true;
+    post([this] { close(); });
+    m_worker.join();
+    m_context.notifier->flush(m_line);
+    m_context.notifier->close(m_line);
+    edit([](PlayFacts &facts) { facts = {}; });
+}
+
+PlayFacts PlaySession::facts() const
+{
+    const std::lock_guard<std::mutex> lock(m_factsMutex);
+    return m_facts;
+}
+
+double PlaySession::position() const
+{
+    const std::lock_guard<std::mutex> lock(m_factsMutex);
+    return m_facts.positionAt(PlayFacts::Clock::now());
+}
+
+void PlaySession::edit(const std::function<void(PlayFacts &)> &change)
+{
+    const std::lock_guard<std::mutex> lock(m_factsMutex);
+    change(m_facts);
+}
+
+void PlaySession::notify(std::function<void(IVDPlayCallback &)> notification)
+{
+    m_context.notifier->post(
+        m_line, [callback = m_callback, notification = std::move(notification)] { notification(*callback); });
+}
+
+void PlaySession::post(EngineThread::Task task)
+{
+    m_thread.post(std::move(task));
+}
+
+void PlaySession::run()
+{
+    // The look at the file and libmpv's set-up go side by side.
+    lookAtSource();
+    m_context.settings->follow(this);
+    m_preferences = m_context.settings->preferences();
+    MpvMap options = m_context.settings->options();
+    m_appliedPicture = PictureOptions::build(m_preferences, m_picture);
+    options.insert(m_appliedPicture.begin(), m_appliedPicture.end());
+    options["pause"] = !m_request.autoStart;
+    m_passThrough = !options["audio-spdif"].text().empty();
+    m_mpv = MpvHandle::create(options);
+    std::mutex idle;
+    std::condition_variable woken;
+    if (m_mpv) {
+        m_thread.setWaker([this] { m_mpv->wakeUp(); });
+        for (std::size_t row = 0; row < propertyRowCount; ++row) {
+            if (propertyRows[row].read == PropertyRow::Read::Observed)
+                m_mpv->observe(propertyRows[row].name, propertyRows[row].format, row + 1);
+        }
+        applyShader();
+        const bool disc = m_request.itemType == VD_Item_Disc;
+        m_openTimer =
+            m_thread.after(disc ? std::max(discOpenLimit, m_context.openLimit) : m_context.openLimit,
+                           [this] { fail(VD_PlayError_TimedOut); });
+    } else {
+        m_thread.setWaker([&] {
+            const std::lock_guard<std::mutex> lock(idle);
+            woken.notify_all();
+        });
+        fail(VD_PlayError_NoEngine);
+    }
+    while (!m_quit) {
+        m_thread.runTasks();
+        m_thread.runTimers(EngineThread::Clock::now());
+        if (m_quit)
+            break;
+        const double wait = m_thread.secondsToNextTimer(EngineThread::Clock::now(), idleWait);
+        if (m_mpv) {
+            const MpvEvent event = m_mpv->wait(wait);
+            if (event.kind != MpvEvent::Kind::None)
+                handle(event);
+        } else {
+            // A wake-up that comes between the tasks and this wait costs a tenth of a second at most.
+            std::unique_lock<std::mutex> lock(idle);
+            woken.wait_for(lock, std::chrono::duration<double>(std::min(wait, 0.1)));
+        }
+    }
+    m_context.settings->unfollow(this);
+    m_thread.close();
+    m_tap.reset();
+    if (m_mpv)
+        m_mpv->terminate(terminateLimit);
+    m_mpv.reset();
+}
+
+void PlaySession::handle(const MpvEvent &event)
+{
+    switch (event.kind) {
+    case MpvEvent::Kind::Property:
+    case MpvEvent::Kind::Reply:
+        handleReply(event);
+        break;
+    case MpvEvent::Kind::FileLoaded:
+        m_loaded = true;
+        break;
+    case MpvEvent::Kind::PlaybackRestart:
+        restarted();
+        break;
+    case MpvEvent::Kind::EndFile:
+        fileEnded(event);
+        break;
+    case MpvEvent::Kind::Log:
+        if (event.isError)
+            engineLog("[Play] %s: %s", event.prefix.c_str(), event.text.c_str());
+        if (m_shaderWatch.isRefusal(event.prefix, event.text))
+            shaderRefused();
+        break;
+    case MpvEvent::Kind::Shutdown:
+        if (m_state == State::Opening)
+            fail(VD_PlayError_NoEngine);
+        break;
+    default:
+        break;
+    }
+}
+
+void PlaySession::handleReply(const MpvEvent &event)
+{
+    if (event.id >= 1 && event.id <= propertyRowCount) {
+        (this->*propertyRows[event.id - 1].handle)(event.value);
+        if (event.kind == MpvEvent::Kind::Reply && m_startReplies > 0 && propertyRows[event.id - 1].atStart
+            && --m_startReplies == 0)
+            announceStart();
+        return;
+    }
+    const auto found = m_replies.find(event.id);
+    if (found == m_replies.end())
+        return;
+    const Reply reply = std::move(found->second);
+    m_replies.erase(found);
+    reply(event);
+}
+
+std::uint64_t PlaySession::expect(Reply reply)
+{
+    m_replies.emplace(++m_lastReply, std::move(reply));
+    return m_lastReply;
+}
+
+void PlaySession::lookAtSource()
+{
+    std::thread([weak = weak_from_this(), make = m_context.makePlan, request = m_request] {
+        SourcePlan plan = make(request);
+        if (const auto session = weak.lock())
+            session->post([raw = session.get(), plan = std::move(plan)] { raw->load(plan); });
+    }).detach();
+}
+
+void PlaySession::load(SourcePlan plan)
+{
+    if (m_state != State::Opening || m_failed)
+        return;
+    m_plan = std::move(plan);
+    edit([this](PlayFacts &facts) { facts.info = m_plan.info; });
+    if (m_plan.error != VD_PlayError_None) {
+        fail(m_plan.error);
+        return;
+    }
+    takeResumeChoice();
+    loadUrl();
+}
+
+void PlaySession::loadUrl()
+{
+    MpvMap options = m_plan.options;
+    // Only tracks that an earlier play of this source had are asked for before they are known.
+    if (m_request.audio >= 0)
+        options["aid"] = std::to_string(m_request.audio + 1);
+    if (m_request.subtitle == VD_NoSubtitle || (m_request.subtitle < 0 && !m_preferences.subtitlesAllowed))
+        options["sid"] = "no";
+    else if (m_request.subtitle >= 0)
+        options["sid"] = std::to_string(m_request.subtitle + 1);
+    m_mpv->commandNamed(
+        MpvMap{{"name", "loadfile"}, {"url", m_plan.url}, {"flags", "replace"}, {"options", options}},
+        expect([this](const MpvEvent &event) {
+            if (event.error < 0)
+                fail(VD_PlayError_UnknownFormat);
+        }));
+}
+
+void PlaySession::takeResumeChoice()
+{
+    const auto known = m_context.resume->find(m_request.path);
+    const auto take = [&](int &wanted, int stored) {
+        if (wanted == VD_ResumeChoice)
+            wanted = known ? stored : VD_DefaultChoice;
+    };
+    const ResumeMemory::Choice choice = known.value_or(ResumeMemory::Choice{});
+    take(m_request.audio, choice.audio);
+    take(m_request.subtitle, choice.subtitle);
+    take(m_request.angle, choice.angle);
+}
+
+void PlaySession::storeResumeChoice()
+{
+    const PlayFacts now = facts();
+    ResumeMemory::Choice choice;
+    const auto audio = static_cast<std::size_t>(now.tracks.selectedAudio);
+    const auto subtitle = static_cast<std::size_t>(now.tracks.selectedSubtitle);
+    // A file that was added is not there at the next time.
+    if (now.tracks.selectedAudio >= 0 && !now.tracks.audio[audio].isExternal)
+        choice.audio = now.tracks.selectedAudio;
+    if (now.tracks.selectedSubtitle < 0)
+        choice.subtitle = now.tracks.subtitles.empty() ? VD_DefaultChoice : VD_NoSubtitle;
+    else if (!now.tracks.subtitles[subtitle].record.isExternal)
+        choice.subtitle = now.tracks.selectedSubtitle;
+    choice.angle = m_request.angle >= 0 ? m_request.angle : VD_DefaultChoice;
+    m_context.resume->store(m_request.path, choice);
+}
+
+void PlaySession::restarted()
+{
+    if (m_state == State::Opening && m_startReplies == 0 && !m_failed) {
+        for (std::size_t row = 0; row < propertyRowCount; ++row) {
+            if (!propertyRows[row].atStart)
+                continue;
+            ++m_startReplies;
+            m_mpv->get(propertyRows[row].name, propertyRows[row].format, row + 1);
+        }
+        return;
+    }
+    if (m_seekAccepted)
+        finishSeek(true);
+    else
+        settle();
+}
+
+void PlaySession::announceStart()
+{
+    if (m_state != State::Opening || m_failed)
+        return;
+    m_thread.cancel(m_openTimer);
+    m_state = State::Playing;
+    m_openMs = static_cast<int>(
+        std::chrono::duration_cast<std::chrono::milliseconds>(EngineThread::Clock::now() - m_asked).count());
+    const bool paused = m_speed.isPaused();
+    edit([this, paused](PlayFacts &facts) {
+        const bool audioOnly = facts.tracks.isAudioOnly();
+        facts.isOpen = true;
+        facts.isPlaying = true;
+        facts.isPaused = paused;
+        facts.hasFrame = facts.tracks.hasVideo;
+        facts.titleCount = static_cast<int>(m_plan.titles.size());
+        facts.rate = paused ? 0 : 1;
+        facts.readAt = PlayFacts::Clock::now();
+        facts.info.audioOnly = audioOnly ? 1 : 0;
+        if (facts.info.mediaClass == VD_Media_File) {
+            facts.info.sourceForm = audioOnly ? VD_Source_AudioFile : VD_Source_File;
+            facts.info.flags =
+                PlayReport::fileFlags(facts.tracks.videoCodec, facts.info.width, facts.info.height);
+        }
+    });
+    engineLog("[Play] started after %d ms: %s", m_openMs, m_plan.url.c_str());
+    if (m_request.audio >= 0 && facts().tracks.selectedAudio < 0 && !facts().tracks.audio.empty())
+        m_mpv->set("aid", "auto");
+    tellVideo();
+    tellAudio();
+    if (facts().tracks.selectedSubtitle >= 0)
+        tellSubtitle();
+    notify([title = m_plan.title](IVDPlayCallback &callback) { callback.OnTitle(title); });
+    const PlayFacts now = facts();
+    notify([now](IVDPlayCallback &callback) { callback.OnChapter(now.chapter, now.chapterCount); });
+    tellRange();
+    notify([](IVDPlayCallback &callback) { callback.OnPlayBackStarted(); });
+    if (paused)
+        notify([](IVDPlayCallback &callback) { callback.OnPlayBackPaused(); });
+    checkHardware();
+    tellTime();
+    startPolling();
+    applyPicture();
+    applyTap();
+    applyOverlay();
+    checkEnd();
+}
+
+void PlaySession::checkHardware()
+{
+    const PlayFacts now = facts();
+    if (!m_preferences.hardwareDecoding || now.hardwareDecoding || !now.tracks.hasVideo)
+        return;
+    VD_ErrorCallbackType note = VD_Error_None;
+    if (now.info.mediaClass == VD_Media_BluRay && (now.info.flags & VD_Flag_Uhd))
+        note = VD_Error_UhdHardwareUnsupported;
+    else if (now.info.mediaClass == VD_Media_File && (now.info.flags & VD_Flag_File4K)
+             && (now.info.flags & VD_Flag_FileHevc))
+        note = VD_Error_HevcHardwareUnsupported;
+    if (note == VD_Error_None)
+        return;
+    engineLog("[Play] no hardware decoder for this video, note %d", static_cast<int>(note));
+    m_context.notifier->post(m_line, [orbix = m_context.orbix, note] { orbix->OnError(note); });
+}
+
+void PlaySession::fail(VD_PlayError error)
+{
+    if (m_state != State::Opening || m_failed)
+        return;
+    m_failed = true;
+    m_thread.cancel(m_openTimer);
+    engineLog("[Play] cannot be played, error %d: %s", static_cast<int>(error), m_request.path.c_str());
+    if (m_mpv && !m_plan.url.empty())
+        m_mpv->command({"stop"});
+    m_openTimer = m_thread.after(recordLimit, [this, error] { announceFailure(facts().info, error); });
+    if (SourcePlan::isNetworkAddress(m_request.resolved) || error == VD_PlayError_NotFound
+        || error == VD_PlayError_TimedOut) {
+        announceFailure(facts().info, error);
+        return;
+    }
+    std::thread([weak = weak_from_this(), request = m_request, error] {
+        const vdFileInfo info = SourceProbe::describe(request.resolved, request.itemType, request.title);
+        if (const auto session = weak.lock())
+            session->post([raw = session.get(), info, error] { raw->announceFailure(info, error); });
+    }).detach();
+}
+
+void PlaySession::announceFailure(vdFileInfo info, VD_PlayError error)
+{
+    if (m_state != State::Opening)
+        return;
+    m_state = State::Over;
+    m_thread.cancel(m_openTimer);
+    notify([info, error](IVDPlayCallback &callback) { callback.OnPlayBackFailed(error, info); });
+}
+
+void PlaySession::fileEnded(const MpvEvent &event)
+{
+    if (m_ignoredEnds > 0) {
+        --m_ignoredEnds;
+        return;
+    }
+    if (m_state == State::Playing) {
+        finish(event.error < 0 ? Outcome::Broken : Outcome::ReachedEnd);
+        return;
+    }
+    if (m_state != State::Opening)
+        return;
+    if (event.error < 0)
+        engineLog("[Play] %s", MpvHandle::errorText(event.error));
+    const bool disc = m_plan.info.mediaClass != VD_Media_File;
+    if (m_loaded || MpvHandle::isNothingToPlay(event.error))
+        fail(VD_PlayError_NoStream);
+    else if (disc)
+        fail(VD_PlayError_DiscUnreadable);
+    else if (MpvHandle::isUnknownFormat(event.error) || !m_plan.localFile.empty())
+        fail(VD_PlayError_UnknownFormat);
+    else
+        fail(VD_PlayError_NotFound);
+}
+
+void PlaySession::checkEnd()
+{
+    if (!m_endReached)
+        return;
+    if (m_state == State::Opening && m_startReplies == 0) {
+        if (m_plan.options.count("start") && !m_reloaded) {
+            // The stored position lies behind the end: the source has become shorter.
+            m_reloaded = true;
+            m_endReached = false;
+            m_plan.options.erase("start");
+            ++m_ignoredEnds;
+            loadUrl();
+            return;
+        }
+        fail(VD_PlayError_NoStream);
+        return;
+    }
+    if (m_state == State::Playing && !m_speed.isPaused() && !m_speed.isStepping() && !m_seeks.isBusy())
+        finish(Outcome::ReachedEnd);
+}
+
+void PlaySession::finish(Outcome outcome)
+{
+    if (m_state != State::Playing)
+        return;
+    m_state = State::Ending;
+    for (EngineThread::TimerId *timer : {&m_pollTimer, &m_seekTimer, &m_motionTimer, &m_overlayTimer})
+        m_thread.cancel(*timer);
+    const bool hasFrame = facts().hasFrame;
+    edit([](PlayFacts &facts) {
+        const auto now = PlayFacts::Clock::now();
+        facts.position = facts.positionAt(now);
+        facts.readAt = now;
+        facts.rate = 0;
+        facts.isPlaying = false;
+    });
+    m_tap.reset();
+    if (!hasFrame) {
+        conclude(outcome, {});
+        return;
+    }
+    m_frameTimer = m_thread.after(frameLimit, [this, outcome] { conclude(outcome, {}); });
+    m_mpv->command({"screenshot-raw", "video"}, expect([this, outcome](const MpvEvent &event) {
+                       conclude(outcome, LastFrame::read(event.value, LastFrame::Order::Bgra));
+                   }));
+}
+
+void PlaySession::conclude(Outcome outcome, LastFrame frame)
+{
+    if (m_state != State::Ending)
+        return;
+    m_state = State::Over;
+    m_thread.cancel(m_frameTimer);
+    storeResumeChoice();
+    const PlayFacts now = facts();
+    const double position = outcome == Outcome::ReachedEnd && now.total > 0 ? now.total : now.position;
+    const vdStopPlayInfo info = PlayReport::stopInfo(m_request.path, position, now.total, outcome);
+    const auto picture = std::make_shared<const LastFrame>(std::move(frame));
+    notify([info, picture](IVDPlayCallback &callback) {
+        vdStopPlayInfo record = info;
+        if (!picture->isNull()) {
+            record.image = picture->pixels.data();
+            record.imageWidth = picture->width;
+            record.imageHeight = picture->height;
+        }
+        callback.OnStopInfo(record);
+    });
+    const std::string facts = PlayReport::statistics(now, position, outcome, m_openMs, m_seekCount);
+    notify([facts](IVDPlayCallback &callback) { callback.OnStatistics(facts.c_str()); });
+    if (outcome == Outcome::ReachedEnd)
+        notify([](IVDPlayCallback &callback) { callback.OnPlayBackEnded(); });
+    else if (outcome == Outcome::Closed)
+        notify([](IVDPlayCallback &callback) { callback.OnPlayBackStopped(); });
+    else
+        notify([fileInfo = now.info](IVDPlayCallback &callback) {
+            callback.OnPlayBackFailed(VD_PlayError_Broken, fileInfo);
+        });
+    edit([](PlayFacts &kept) { kept.hasFrame = false; });
+    if (outcome == Outcome::Closed || m_closeWanted)
+        m_quit = true;
+    else
+        m_mpv->command({"stop"}); // the decoders and the sound device are free for others
+}
+
+void PlaySession::close()
+{
+    m_closeWanted = true;
+    if (m_state == State::Opening) {
+        notify([](IVDPlayCallback &callback) { callback.OnPlayBackStopped(); });
+        m_state = State::Over;
+        m_quit = true;
+    } else if (m_state == State::Playing) {
+        finish(Outcome::Closed);
+    } else if (m_state == State::Over) {
+        m_quit = true;
+    }
+}

@@ -1,0 +1,756 @@
+#include "PlayTool.h"
+
+#include "DiscReader.h"
+#include "DriveControl.h"
+#include "DriveTable.h"
+#include "LocalFile.h"
+#include "NativePath.h"
+#include "PlayToolTables.h"
+#include "SubtitleStyle.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <cstdlib>
+
+namespace {
+
+using namespace libvp;
+
+#ifdef _WIN32
+constexpr char defaultVideoOutputs[] = "gpu,direct3d";
+#else
+constexpr char defaultVideoOutputs[] = "gpu,x11";
+#endif
+constexpr char clientName[] = "Quorin Player";
+constexpr std::int64_t largestShader = 4 << 20;
+constexpr float largestVolume = 2.0f;
+constexpr float largestAmplification = 60.0f; // decibels over ten
+constexpr double outlineWidth = 3.0;
+
+std::string environment(const char *name)
+{
+    const char *value = std::getenv(name);
+    return value ? value : "";
+}
+
+// Outputs that draw into a window.
+bool needsSurface(const std::string &outputs)
+{
+    return outputs != "null" && outputs != "image";
+}
+
+float finiteOr(float value, float fallback)
+{
+    return std::isfinite(value) ? value : fallback;
+}
+
+// A user name or password inside an address.
+std::string escaped(const std::string &text)
+{
+    static constexpr char digits[] = "0123456789ABCDEF";
+    std::string result;
+    for (const unsigned char c : text) {
+        if (std::isalnum(c) || c == '-' || c == '.' || c == '_' || c == '~') {
+            result += static_cast<char>(c);
+        } else {
+            result += '%';
+            result += digits[c >> 4];
+            result += digits[c & 15];
+        }
+    }
+    return result;
+}
+
+std::string textOf(const char *text)
+{
+    return text ? text : "";
+}
+
+} // namespace
+
+PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayToolConfig *toolConfig,
+                   IVDPlaytoolCallback *callback, DriveTable &drives)
+    : m_config(config)
+    , m_callback(callback)
+    , m_drives(drives)
+    , m_outputs([this] {
+        const auto probe = MpvHandle::create(m_settings.options());
+        return probe ? probe->readNow("audio-device-list") : MpvValue();
+    })
+    , m_line(m_notifier.openLine())
+{
+    m_context.settings = &m_settings;
+    m_context.notifier = &m_notifier;
+    m_context.resume = &m_resume;
+    m_context.orbix = orbix;
+
+    std::string outputs = environment("ORBIX_VO");
+    m_outputsChosen = !outputs.empty();
+    setVideoOutputs(outputs.empty() ? defaultVideoOutputs : outputs);
+    if (const std::string sound = environment("ORBIX_AO"); !sound.empty())
+        set("ao", sound);
+    set("audio-client-name", clientName);
+    std::int64_t window = 0;
+    if (void *block = toolConfig ? toolConfig->nativeWindow() : nullptr)
+        window = static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(*static_cast<void **>(block)));
+    if (window != 0)
+        set("wid", window);
+    applyVolume();
+    setSubtitleOverride(false);
+    if (window == 0 && needsSurface(m_videoOutputs)) {
+        engineLog("[Engine] no surface to draw into");
+        return;
+    }
+    m_valid = MpvHandle::create(m_settings.options()) != nullptr;
+}
+
+PlayTool::~PlayTool()
+{
+    std::vector<std::unique_ptr<Play>> plays;
+    {
+        const std::lock_guard<std::mutex> lock(m_playsMutex);
+        plays.swap(m_plays);
+    }
+    plays.clear();
+    m_notifier.close(m_line);
+}
+
+void PlayTool::lacks(const char *what)
+{
+    m_log.write(std::string(what) + " cannot be had with this engine");
+}
+
+bool PlayTool::isValid()
+{
+    return m_valid;
+}
+
+void PlayTool::resizeSurface(int, int)
+{
+    // The picture follows the native window by itself.
+}
+
+bool PlayTool::createPlay(IVDPlayCallback *callback, int, IVDPlay **play)
+{
+    if (!play)
+        return false;
+    *play = nullptr;
+    if (!callback || !m_valid)
+        return false;
+    const std::lock_guard<std::mutex> lock(m_playsMutex);
+    m_plays.push_back(std::make_unique<Play>(m_context, m_drives, m_log, callback));
+    *play = m_plays.back().get();
+    return true;
+}
+
+void PlayTool::releasePlay(IVDPlay **play)
+{
+    if (!play || !*play)
+        return;
+    std::unique_ptr<Play> released;
+    {
+        const std::lock_guard<std::mutex> lock(m_playsMutex);
+        const auto found = std::find_if(m_plays.begin(), m_plays.end(),
+                                        [play](const auto &candidate) { return candidate.get() == *play; });
+        if (found != m_plays.end()) {
+            released = std::move(*found);
+            m_plays.erase(found);
+        }
+    }
+    *play = nullptr;
+}
+
+std::shared_ptr<PlaySession> PlayTool::openSession() const
+{
+    const std::lock_guard<std::mutex> lock(m_playsMutex);
+    for (auto play = m_plays.rbegin(); play != m_plays.rend(); ++play) {
+        if (auto session = (*play)->session())
+            return session;
+    }
+    return nullptr;
+}
+
+MpvValue PlayTool::readProperty(const std::string &name) const
+{
+    const auto session = openSession();
+    return session ? session->readProperty(name) : MpvValue();
+}
+
+// Properties by name
+
+const PlayTool::BoolRow PlayTool::boolRows[] = {
+    {"videoscreen.limitedrange",
+     [](PlayTool &tool, bool on) {
+         tool.prefer([on](PlayPreferences &preferences) { preferences.limitedRange = on; });
+         return true;
+     }},
+    {"audiooutput.passthrough", [](PlayTool &tool, bool on) { return tool.setPassThrough(on); }},
+    {"subtitles.autoload",
+     [](PlayTool &tool, bool on) {
+         tool.set("autoload-files", on);
+         tool.set("sub-auto", on ? "fuzzy" : "no");
+         return true;
+     }},
+};
+
+const PlayTool::IntRow PlayTool::intRows[] = {
+    {"videoscreen.stereoscopicmode",
+     [](PlayTool &tool, int mode) {
+         tool.prefer([mode](PlayPreferences &preferences) { preferences.stereoOutput = mode; });
+         return true;
+     }},
+    {"audiooutput.channels",
+     [](PlayTool &tool, int layout) {
+         {
+             const std::lock_guard<std::mutex> lock(tool.m_mutex);
+             tool.m_speakerLayout = layout;
+         }
+         tool.set("audio-channels", AudioOutputs::channelLayouts(layout));
+         return true;
+     }},
+    {"videoscreen.sdrvalue",
+     [](PlayTool &tool, int value) {
+         tool.prefer([value](PlayPreferences &preferences) { preferences.luminance = value; });
+         return true;
+     }},
+    {"audio.pcmtap",
+     [](PlayTool &tool, int on) {
+         tool.prefer([on](PlayPreferences &preferences) { preferences.pcmTap = on == 1; });
+         return true;
+     }},
+    {"play.step", [](PlayTool &tool, int frames) { return tool.stepFrame(frames); }},
+    {"play.angle", [](PlayTool &tool, int angle) { return tool.setAngle(angle); }},
+};
+
+const PlayTool::StringRow PlayTool::stringRows[] = {
+    {"audiooutput.audiodevice", [](PlayTool &tool, const char *name) { return tool.setAudioDevice(name); }},
+    {"audiooutput.passthroughdevice",
+     [](PlayTool &tool, const char *name) { return tool.setAudioDevice(name); }},
+    {"subtitles.charset",
+     [](PlayTool &tool, const char *codePage) {
+         tool.set("sub-codepage", SubtitleStyle::charset(codePage));
+         return true;
+     }},
+    {"subtitles.outlinecolor",
+     [](PlayTool &tool, const char *text) {
+         const std::string color = SubtitleStyle::color(text);
+         if (!color.empty())
+             tool.set("sub-border-color", color);
+         return !color.empty();
+     }},
+    {"video.output",
+     [](PlayTool &tool, const char *outputs) {
+         {
+             const std::lock_guard<std::mutex> lock(tool.m_mutex);
+             tool.m_outputsChosen = *outputs != '\0';
+         }
+         tool.setVideoOutputs(*outputs ? outputs : defaultVideoOutputs);
+         return true;
+     }},
+};
+
+bool PlayTool::setBoolProperty(const char *name, bool value)
+{
+    return setByName(*this, boolRows, name, value);
+}
+
+bool PlayTool::setIntProperty(const char *name, int value)
+{
+    return setByName(*this, intRows, name, value);
+}
+
+bool PlayTool::setStringProperty(const char *name, const char *value)
+{
+    if (name && setDrive(name, value))
+        return true;
+    return setByName(*this, stringRows, name, value ? value : "");
+}
+
+bool PlayTool::setDrive(const char *property, const char *path)
+{
+    static const std::string prefix = "disc.drive.";
+    const std::string name = property;
+    if (name.size() != prefix.size() + 1 || name.compare(0, prefix.size(), prefix) != 0
+        || !std::isalpha(static_cast<unsigned char>(name.back())))
+        return false;
+    m_drives.bind(name.back(), textOf(path));
+    return true;
+}
+
+bool PlayTool::stepFrame(int frames)
+{
+    const auto session = openSession();
+    if (!session || (frames != 1 && frames != -1))
+        return false;
+    session->step(frames);
+    return true;
+}
+
+bool PlayTool::setAngle(int angle)
+{
+    if (angle < 0 || angle > 98)
+        return false;
+    set("dvd-angle", angle + 1);
+    if (openSession())
+        lacks("a change of the angle while a disc plays");
+    return true;
+}
+
+void PlayTool::setVideoOutputs(const std::string &outputs)
+{
+    const bool shader = !m_settings.preferences().customShader.empty();
+    bool chosen = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_videoOutputs = outputs;
+        chosen = m_outputsChosen;
+    }
+    // Drawing in software through OpenGL costs several times the plain output: only who asks for that output,
+    // or for what it alone can do, gets it without graphics hardware.
+    set("gpu-sw", chosen || shader);
+    set("vo", outputs);
+}
+
+// Sound
+
+void PlayTool::setSpeakerLayout(int layout)
+{
+    bool compressed = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        compressed = m_passThrough;
+        if (compressed)
+            m_codecMask = static_cast<unsigned>(layout);
+        else
+            m_speakerLayout = layout;
+    }
+    if (compressed)
+        applyPassThrough();
+    else
+        set("audio-channels", AudioOutputs::channelLayouts(layout));
+}
+
+bool PlayTool::switchAudioOutput(bool passThrough, const char *device)
+{
+    if (!device || !*device || m_outputs.nativeName(device).empty())
+        return false;
+    setAudioDevice(device);
+    return setPassThrough(passThrough);
+}
+
+bool PlayTool::setAudioDevice(const std::string &name)
+{
+    const std::string nativeName = m_outputs.nativeName(name);
+    if (nativeName.empty())
+        return false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_audioDevice = name;
+    }
+    set("audio-device", nativeName);
+    return true;
+}
+
+bool PlayTool::setPassThrough(bool on)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_passThrough = on;
+    }
+    applyPassThrough();
+    return true;
+}
+
+void PlayTool::applyPassThrough()
+{
+    std::string formats;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_passThrough)
+            formats = AudioOutputs::passThroughFormats(m_codecMask);
+    }
+    set("audio-spdif", formats);
+}
+
+int PlayTool::passThrough()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_passThrough ? 1 : 0;
+}
+
+const char *PlayTool::currentAudioDevice()
+{
+    thread_local std::string name;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        name = m_audioDevice;
+    }
+    if (name.empty()) {
+        const VDAudioDeviceList &list = m_outputs.devices();
+        name = list.count > 0 ? list.devices[0].name : "";
+    }
+    return name.c_str();
+}
+
+bool PlayTool::audioDevices(const VDAudioDeviceList **list)
+{
+    if (!list)
+        return false;
+    *list = &m_outputs.devices();
+    return (*list)->count > 0;
+}
+
+void PlayTool::setVolume(float volume)
+{
+    const float clamped = std::clamp(finiteOr(volume, 1.0f), 0.0f, largestVolume);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_volume = clamped;
+    }
+    applyVolume();
+    m_notifier.post(m_line, [callback = m_callback, clamped] {
+        if (callback)
+            callback->OnVolumeChanged(clamped);
+    });
+}
+
+void PlayTool::setAudioAmplification(float amount)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_amplification = std::clamp(finiteOr(amount, 0.0f), 0.0f, largestAmplification);
+    }
+    applyVolume();
+}
+
+void PlayTool::applyVolume()
+{
+    double percent = 0;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        // libmpv's scale is cubic: a gain is the third power of the volume.
+        const double gain = std::pow(10.0, static_cast<double>(m_amplification) / 10.0 / 20.0);
+        percent = static_cast<double>(m_volume) * 100.0 * std::cbrt(gain);
+    }
+    set("volume", percent);
+}
+
+void PlayTool::setMute(bool mute)
+{
+    set("mute", mute);
+    m_notifier.post(m_line, [callback = m_callback, mute] {
+        if (callback)
+            callback->OnMuteChanged(mute);
+    });
+}
+
+void PlayTool::setBootValue(int) {}
+
+void PlayTool::setAudioDelay(float seconds)
+{
+    set("audio-delay", static_cast<double>(finiteOr(seconds, 0)));
+}
+
+void PlayTool::setPreferredAudioLanguage(const char *language)
+{
+    set("alang", textOf(language));
+}
+
+// Subtitles
+
+void PlayTool::setPreferredSubtitleLanguage(const char *language)
+{
+    const std::string wanted = textOf(language);
+    const bool none = wanted == "close";
+    prefer([none](PlayPreferences &preferences) { preferences.subtitlesAllowed = !none; });
+    set("slang", none ? "" : wanted);
+}
+
+void PlayTool::setSubtitleOffset(float seconds)
+{
+    set("sub-delay", static_cast<double>(finiteOr(seconds, 0)));
+}
+
+void PlayTool::setSubtitleVisible(bool visible)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_subtitleVisible = visible;
+    }
+    set("sub-visibility", visible);
+}
+
+bool PlayTool::isSubtitleVisible()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_subtitleVisible;
+}
+
+void PlayTool::setSubtitleFont(const char *family)
+{
+    set("sub-font", SubtitleStyle::font(textOf(family)));
+}
+
+void PlayTool::setSubtitleSize(int size)
+{
+    set("sub-font-size", SubtitleStyle::fontSize(size));
+}
+
+void PlayTool::setSubtitlePosition(int position, int)
+{
+    set("sub-align-y", position == 2 ? "top" : "bottom");
+}
+
+void PlayTool::setSubtitleColor(const char *color)
+{
+    const std::string text = SubtitleStyle::color(textOf(color));
+    if (!text.empty())
+        set("sub-color", text);
+}
+
+void PlayTool::setSubtitleBold(bool bold)
+{
+    set("sub-bold", bold);
+}
+
+void PlayTool::setSubtitleItalic(bool italic)
+{
+    set("sub-italic", italic);
+}
+
+void PlayTool::setSubtitleOutline(bool outline)
+{
+    set("sub-border-size", outline ? outlineWidth : 0.0);
+}
+
+void PlayTool::setSubtitleOverride(bool override)
+{
+    set("sub-ass-override", override ? "force" : "yes");
+}
+
+// Picture
+
+void PlayTool::setDeinterlaceMode(int mode)
+{
+    prefer([mode](PlayPreferences &preferences) { preferences.deinterlace = mode; });
+}
+
+void PlayTool::setZoomAmount(float zoom)
+{
+    prefer(
+        [zoom](PlayPreferences &preferences) { preferences.zoom = static_cast<double>(finiteOr(zoom, 1)); });
+}
+
+void PlayTool::setPixelRatio(float ratio)
+{
+    const double wanted = ratio > 0 ? static_cast<double>(finiteOr(ratio, 1)) : 1.0;
+    prefer([wanted](PlayPreferences &preferences) { preferences.pixelRatio = wanted; });
+}
+
+void PlayTool::setVerticalShift(float shift)
+{
+    prefer([shift](PlayPreferences &preferences) {
+        preferences.verticalShift = static_cast<double>(finiteOr(shift, 0));
+    });
+}
+
+void PlayTool::setViewMode(int mode)
+{
+    if (mode < VD_View_Default || mode > VD_View_2_35)
+        return;
+    prefer([mode](PlayPreferences &preferences) { preferences.viewMode = mode; });
+}
+
+int PlayTool::viewMode()
+{
+    return m_settings.preferences().viewMode;
+}
+
+void PlayTool::setBrightness(float value)
+{
+    set("brightness", PictureOptions::equalizer(value));
+}
+
+void PlayTool::setSaturation(float value)
+{
+    set("saturation", PictureOptions::equalizer(value));
+}
+
+void PlayTool::setContrast(float value)
+{
+    set("contrast", PictureOptions::equalizer(value));
+}
+
+void PlayTool::setRotation(int quarterTurns)
+{
+    prefer([quarterTurns](PlayPreferences &preferences) { preferences.rotation = quarterTurns & 3; });
+}
+
+int PlayTool::flipState()
+{
+    return m_settings.preferences().flip;
+}
+
+void PlayTool::setFlipState(int state)
+{
+    prefer([state](PlayPreferences &preferences) { preferences.flip = state & 3; });
+}
+
+void PlayTool::resetFlip()
+{
+    setFlipState(0);
+}
+
+void PlayTool::enableHardwareDecoding(bool on)
+{
+    prefer([on](PlayPreferences &preferences) { preferences.hardwareDecoding = on; });
+}
+
+void PlayTool::enableToneMap(bool on)
+{
+    prefer([on](PlayPreferences &preferences) { preferences.toneMap = on; });
+}
+
+void PlayTool::setHDRMode(int mode)
+{
+    prefer([mode](PlayPreferences &preferences) { preferences.hdrMode = mode; });
+}
+
+void PlayTool::setSDRMode(int mode)
+{
+    prefer([mode](PlayPreferences &preferences) { preferences.toneCurve = mode; });
+}
+
+void PlayTool::set3DInputLayout(int layout)
+{
+    prefer([layout](PlayPreferences &preferences) { preferences.stereoInput = layout; });
+}
+
+void PlayTool::set3DEngine(bool on)
+{
+    prefer([on](PlayPreferences &preferences) { preferences.stereoEngine = on; });
+}
+
+void PlayTool::set3DParallax(int direction)
+{
+    prefer([direction](PlayPreferences &preferences) { preferences.rightViewFirst = direction == 1; });
+}
+
+bool PlayTool::threeDCapabilities(VD3DCapabilities *capabilities)
+{
+    if (!capabilities)
+        return false;
+    *capabilities = {};
+    capabilities->words[0] = PictureOptions::stereoModes();
+    return true;
+}
+
+void PlayTool::showInformationOverlay(bool show)
+{
+    prefer([show](PlayPreferences &preferences) { preferences.informationOverlay = show; });
+}
+
+bool PlayTool::takeScreenshot(int mode, int width, int height)
+{
+    const auto session = openSession();
+    return session && session->takeScreenshot(mode == 1, width, height);
+}
+
+double PlayTool::displayAspect()
+{
+    const auto session = openSession();
+    return session ? session->facts().aspect : 0.0;
+}
+
+bool PlayTool::setCustomShader(const char *path)
+{
+    const std::string wanted = textOf(path);
+    std::string absolute;
+    if (!wanted.empty()) {
+        LocalFile file;
+        if (!file.open(wanted) || file.size() == 0 || file.size() > largestShader) {
+            engineLog("[Engine] the custom shader cannot be read: %s", wanted.c_str());
+            return false;
+        }
+        std::error_code error;
+        absolute = std::filesystem::absolute(nativePath(wanted), error).u8string();
+    }
+    prefer([&absolute](PlayPreferences &preferences) { preferences.customShader = absolute; });
+    std::string outputs;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        outputs = m_videoOutputs;
+    }
+    setVideoOutputs(outputs);
+    return true;
+}
+
+const char *PlayTool::customShader()
+{
+    thread_local std::string path;
+    path = m_settings.preferences().customShader;
+    return path.c_str();
+}
+
+// Discs, network and what has no counterpart
+
+bool PlayTool::discDisplayInfo(const char *drive, VDDiscDisplayInfo *info)
+{
+    if (!drive || !*drive || !info)
+        return false;
+    const std::string path = m_drives.resolve(drive);
+    return !path.empty() && DiscReader::displayInfo(path, *info);
+}
+
+bool PlayTool::eject(char drive)
+{
+    const std::string path = m_drives.resolve(std::string(1, drive));
+    return !path.empty() && DriveControl::eject(path);
+}
+
+int PlayTool::discState(char drive)
+{
+    const std::string path = m_drives.resolve(std::string(1, drive));
+    return path.empty() ? DriveControl::NoDrive : DriveControl::state(path);
+}
+
+void PlayTool::setProxy(int type, const char *host, int port, const char *user, const char *password)
+{
+    constexpr int http = 1;
+    constexpr int socks = 2;
+    std::string address;
+    if (type == http && host && *host && port > 0 && port <= 65535) {
+        address = "http://";
+        if (user && *user)
+            address += escaped(user) + (password && *password ? ":" + escaped(password) : "") + "@";
+        address += std::string(host) + ":" + std::to_string(port);
+    } else if (type == socks) {
+        lacks("a SOCKS proxy");
+    }
+    set("http-proxy", address);
+}
+
+void PlayTool::setRegion(int)
+{
+    lacks("a disc region");
+}
+
+void PlayTool::setUiLanguage(int)
+{
+    lacks("a language of disc menus");
+}
+
+void PlayTool::forwardWindowMessage(unsigned, std::uintptr_t, std::intptr_t, int, int)
+{
+    lacks("a disc menu");
+}
+
+void PlayTool::forwardWindowMove(int, int)
+{
+    // Only a surface of the engine's own would have to know.
+}
+
+void PlayTool::setUpFlag73(int) {}
+
+void PlayTool::setUpFlag74(int) {}

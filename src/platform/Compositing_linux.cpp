@@ -1,0 +1,13 @@
+#include "Compositing.h"
+
+#include <QX11Info>
+
+namespace Compositing {
+
+bool isActive()
+{
+    // Only an X server may be without a compositor; every other display has one of its own.
+    return !QX11Info::isPlatformX11() || QX11Info::isCompositingManagerRunning();
+}
+
+} // namespace Compositing

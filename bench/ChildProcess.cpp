@@ -14,6 +14,7 @@ ChildProcess::ChildProcess(const std::vector<std::string> &command, const std::v
 {
     // All memory is had before the fork: behind it only plain system calls are safe.
     std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string &argument : command)
         arguments.push_back(const_cast<char *>(argument.c_str()));
     arguments.push_back(nullptr);

@@ -3,7 +3,7 @@
 #include <xcb/damage.h>
 #include <xcb/xcb.h>
 
-#include <array>
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -50,8 +50,11 @@ Screen::Screen()
     const xcb_query_extension_reply_t *extension = xcb_get_extension_data(m_connection, &xcb_damage_id);
     if (!extension || !extension->present || screens.data->root_depth < 24)
         return;
-    Reply<xcb_damage_query_version_reply_t>(
+    // The extension is only usable once a version was asked for.
+    const Reply<xcb_damage_query_version_reply_t> version(
         xcb_damage_query_version_reply(m_connection, xcb_damage_query_version(m_connection, 1, 1), nullptr));
+    if (!version)
+        return;
     m_damage = xcb_generate_id(m_connection);
     xcb_damage_create(m_connection, m_damage, m_root, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
     xcb_flush(m_connection);

@@ -94,6 +94,11 @@ function(quorin_test name)
     target_link_libraries(${name} PRIVATE quorin_test_support ${ARG_LINK})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <memory> <string> <vector> <QtCore/QtCore>)
+    set(properties LABELS "${ARG_LABEL}" TIMEOUT ${ARG_TIMEOUT})
+    if(ARG_LABEL STREQUAL "e2e")
+        # One at a time: there is one keyboard focus and one top of the stack of windows.
+        list(APPEND properties ENVIRONMENT "QUORIN_TEST_DISPLAY=1" RESOURCE_LOCK display)
+    endif()
     gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        PROPERTIES LABELS "${ARG_LABEL}" TIMEOUT ${ARG_TIMEOUT})
+        PROPERTIES ${properties})
 endfunction()

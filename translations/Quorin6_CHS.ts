@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>AnimateMenu</name>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Media...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitle Setting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feedback</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -14,6 +61,14 @@
     <message>
         <source>Invalid custom shader, please check and try again.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LanguageManager</name>
+    <message>
+        <source>Language name of this translation</source>
+        <extracomment>The name of the language that this translation is for, in that language.</extracomment>
+        <translation>简体中文</translation>
     </message>
 </context>
 <context>
@@ -55,6 +110,210 @@
     </message>
     <message>
         <source>You can change this later in the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalAboutDLg</name>
+    <message>
+        <source>User interface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formats and codecs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blu-ray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Media library</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Music tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Foundations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>built on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalColorAdjustDlg</name>
+    <message>
+        <source>Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color Adjust</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalDialogFrame</name>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalLastPositionLabel</name>
+    <message>
+        <source>Last playback at</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalLoadingDlg</name>
+    <message>
+        <source>Loading ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalMessageBox</name>
+    <message>
+        <source>Don&apos;t show again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalMessageBoxFactory</name>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalStartView</name>
+    <message>
+        <source>Drop a film, a folder or a disc image here to play it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Media...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalTitleBar</name>
+    <message>
+        <source>Minimize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalTvshowAutoPlayLabel</name>
+    <message>
+        <source>Play Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not this time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up Next: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalVideoControlDlg</name>
+    <message>
+        <source>Video Control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel Ratio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NormalWaitingDlg</name>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

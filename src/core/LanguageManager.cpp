@@ -52,3 +52,10 @@ void LanguageManager::remove(ILanguageBase *object)
 {
     m_objects.removeOne(object);
 }
+
+QString LanguageManager::shownLanguage()
+{
+    //: The name of the language that this translation is for, in that language.
+    const QString name = tr("Language name of this translation");
+    return name == QLatin1String("Language name of this translation") ? QStringLiteral("English") : name;
+}

@@ -28,6 +28,9 @@ public:
     [[nodiscard]] static QString translationFile(const QString &code);
     [[nodiscard]] static QString localeWord(const QString &code);
 
+    // The name of the language whose texts are shown now, in that language.
+    [[nodiscard]] static QString shownLanguage();
+
     void setMediaServerLanguageSink(LanguageSink sink);
 
 private:

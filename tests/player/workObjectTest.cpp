@@ -1,0 +1,76 @@
+#include "player/workObject.h"
+
+#include "PlayerFixture.h"
+
+#include <QThread>
+
+using testing::Contains;
+using testing::ElementsAre;
+
+namespace {
+
+// Stands for the window whose signals reach the worker.
+class Owner final : public QObject {
+    Q_OBJECT
+
+signals:
+    void sig_resizeRender(int nWidth, int nHeight);
+    void sig_seek(int nTime);
+    void sig_setup3D();
+};
+
+class WorkObject : public PlayerTest {
+protected:
+    WorkObject()
+    {
+        QObject::connect(&owner, &Owner::sig_resizeRender, work.get(), &workObject::slot_resizeRenderSize);
+        QObject::connect(&owner, &Owner::sig_seek, work.get(), &workObject::slot_seek);
+        QObject::connect(&owner, &Owner::sig_setup3D, work.get(), &workObject::slot_setup3D);
+    }
+
+    Owner owner;
+    std::unique_ptr<workObject> work{std::make_unique<workObject>(player.get())};
+};
+
+} // namespace
+
+TEST_F(WorkObject, LivesOnAThreadOfItsOwn)
+{
+    EXPECT_NE(work->thread(), QThread::currentThread());
+    EXPECT_TRUE(work->thread()->isRunning());
+}
+
+TEST_F(WorkObject, ASeekDoesNotOvertakeAResize)
+{
+    start();
+    engine.hold("IVDPlayTool::resizeSurface");
+    emit owner.sig_resizeRender(800, 600);
+    emit owner.sig_seek(30);
+    emit owner.sig_seek(40);
+    ASSERT_TRUE(engine.waitHeld("IVDPlayTool::resizeSurface"));
+    EXPECT_THAT(engine.calls(), ElementsAre("IVDPlayTool::resizeSurface(800, 600)"));
+    engine.release("IVDPlayTool::resizeSurface");
+    ASSERT_TRUE(engine.waitCall("IVDPlay::seek(40, 1)"));
+    EXPECT_THAT(engine.calls(), ElementsAre("IVDPlayTool::resizeSurface(800, 600)", "IVDPlay::seek(30, 1)",
+                                            "IVDPlay::seek(40, 1)"));
+}
+
+TEST_F(WorkObject, SetsUp3D)
+{
+    start();
+    emit owner.sig_setup3D();
+    EXPECT_TRUE(engine.waitCall("IVDPlayTool::setIntProperty(videoscreen.stereoscopicmode"));
+}
+
+TEST_F(WorkObject, EndsItsThreadAfterTheCommandThatRuns)
+{
+    start();
+    engine.hold("IVDPlay::seek");
+    emit owner.sig_seek(1);
+    ASSERT_TRUE(engine.waitHeld("IVDPlay::seek"));
+    engine.release("IVDPlay::seek");
+    work.reset();
+    EXPECT_THAT(engine.calls(), Contains("IVDPlay::seek(1, 1)"));
+}
+
+#include "workObjectTest.moc"

@@ -7,7 +7,6 @@
 #include <map>
 #include <mutex>
 #include <string>
-#include <vector>
 
 class DriveTable final {
 public:
@@ -30,7 +29,7 @@ public:
     [[nodiscard]] static char letterOf(const std::string &pathOrLetter);
 
 private:
-    std::string opticalDrive(char letter) const;
+    [[nodiscard]] static std::string ownDrive(char letter);
 
     mutable std::mutex m_mutex;
     std::map<char, std::string> m_bound;

@@ -6,7 +6,7 @@
 
 #include <cstdarg>
 #include <cstddef>
-#include <cstdio>
+#include <fstream>
 #include <mutex>
 #include <string>
 
@@ -18,7 +18,6 @@ public:
     EngineLog() = default;
     EngineLog(const EngineLog &) = delete;
     EngineLog &operator=(const EngineLog &) = delete;
-    ~EngineLog();
 
     // The log that engineLog() writes to.
     static EngineLog &instance();
@@ -32,14 +31,14 @@ public:
     void write(const char *format, std::va_list arguments) noexcept;
 
 private:
-    void append(const std::string &line);
+    bool openFile();
     void keepNewerHalf();
 
     std::mutex m_mutex;
     std::string m_path;
     std::size_t m_capBytes{DefaultCapBytes};
     std::size_t m_size{0};
-    std::FILE *m_file{nullptr};
+    std::ofstream m_file;
 };
 
 #if defined(__GNUC__)

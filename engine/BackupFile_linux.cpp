@@ -1,0 +1,95 @@
+#include "BackupFile.h"
+
+#include "NativePath.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+bool moveTo(const std::string &draft, const std::string &target, bool replace)
+{
+    if (replace)
+        return ::rename(draft.c_str(), target.c_str()) == 0;
+    if (::renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Not every file system can refuse by itself.
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    return ::access(target.c_str(), F_OK) != 0 && ::rename(draft.c_str(), target.c_str()) == 0;
+}
+
+void syncFolder(const std::string &target)
+{
+    const std::string folder = nativePath(target).parent_path().u8string();
+    const int fd = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+} // namespace
+
+bool BackupFile::open(const std::string &target, bool replace)
+{
+    discard();
+    struct stat info = {};
+    const bool exists = ::lstat(target.c_str(), &info) == 0;
+    if (target.empty() || (exists && (!replace || !S_ISREG(info.st_mode))))
+        return false;
+    // Left by a run that was killed.
+    const std::string draft = draftOf(target);
+    ::unlink(draft.c_str());
+    const int fd = ::open(draft.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+    if (fd < 0)
+        return false;
+    m_target = target;
+    m_replace = replace;
+    m_handle = fd;
+    return true;
+}
+
+bool BackupFile::write(const void *data, std::size_t bytes)
+{
+    const char *from = static_cast<const char *>(data);
+    while (bytes > 0) {
+        const ssize_t count = ::write(static_cast<int>(m_handle), from, bytes);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        from += count;
+        bytes -= static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+bool BackupFile::commit()
+{
+    if (m_handle == NoHandle)
+        return false;
+    const int fd = static_cast<int>(m_handle);
+    const bool written = ::fsync(fd) == 0;
+    m_handle = NoHandle;
+    const std::string draft = draftOf(m_target);
+    // Some file systems tell of a full disk only now.
+    if (::close(fd) != 0 || !written || !moveTo(draft, m_target, m_replace)) {
+        ::unlink(draft.c_str());
+        return false;
+    }
+    syncFolder(m_target);
+    return true;
+}
+
+void BackupFile::discard()
+{
+    if (m_handle == NoHandle)
+        return;
+    ::close(static_cast<int>(m_handle));
+    m_handle = NoHandle;
+    ::unlink(draftOf(m_target).c_str());
+}

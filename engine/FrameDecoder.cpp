@@ -1,0 +1,91 @@
+#include "FrameDecoder.h"
+
+#include <limits>
+
+namespace {
+
+constexpr std::int64_t MaxPixels = 8192LL * 8192;
+
+} // namespace
+
+bool FrameDecoder::open(MediaInput &input, int stream)
+{
+    AVFormatContext *format = input.context();
+    if (!format || stream < 0 || unsigned(stream) >= format->nb_streams)
+        return false;
+    m_input = &input;
+    m_stream = format->streams[stream];
+    const AVCodec *codec = avcodec_find_decoder(m_stream->codecpar->codec_id);
+    if (!codec)
+        return false;
+    m_context.reset(avcodec_alloc_context3(codec));
+    m_packet.reset(av_packet_alloc());
+    if (!m_context || !m_packet || avcodec_parameters_to_context(m_context.get(), m_stream->codecpar) < 0)
+        return false;
+    m_context->pkt_timebase = m_stream->time_base;
+    m_context->thread_count = 1;
+    m_context->max_pixels = MaxPixels;
+    m_draining = false;
+    return avcodec_open2(m_context.get(), codec, nullptr) >= 0;
+}
+
+void FrameDecoder::setKeyFramesOnly(bool on)
+{
+    if (m_context)
+        m_context->skip_frame = on ? AVDISCARD_NONKEY : AVDISCARD_DEFAULT;
+}
+
+void FrameDecoder::flush()
+{
+    if (m_context)
+        avcodec_flush_buffers(m_context.get());
+    m_draining = false;
+}
+
+AvFrame FrameDecoder::receive()
+{
+    AvFrame frame(av_frame_alloc());
+    if (!frame || avcodec_receive_frame(m_context.get(), frame.get()) < 0)
+        return nullptr;
+    return frame;
+}
+
+AvFrame FrameDecoder::next()
+{
+    while (m_context && !m_input->deadline().isOver()) {
+        if (AvFrame frame = receive())
+            return frame;
+        if (m_draining)
+            return nullptr;
+        if (!m_input->read(*m_packet)) {
+            if (m_input->deadline().isOver())
+                return nullptr;
+            m_draining = true;
+            avcodec_send_packet(m_context.get(), nullptr);
+            continue;
+        }
+        // A packet that the decoder refuses is lost, not the stream.
+        if (m_packet->stream_index == m_stream->index)
+            avcodec_send_packet(m_context.get(), m_packet.get());
+    }
+    return nullptr;
+}
+
+AvFrame FrameDecoder::decode(const AVPacket &packet)
+{
+    if (!m_context || avcodec_send_packet(m_context.get(), &packet) < 0)
+        return nullptr;
+    if (AvFrame frame = receive())
+        return frame;
+    avcodec_send_packet(m_context.get(), nullptr);
+    return receive();
+}
+
+double FrameDecoder::secondsOf(const AVFrame &frame) const
+{
+    const std::int64_t stamp =
+        frame.best_effort_timestamp != AV_NOPTS_VALUE ? frame.best_effort_timestamp : frame.pts;
+    if (stamp == AV_NOPTS_VALUE)
+        return std::numeric_limits<double>::quiet_NaN();
+    return double(stamp) * av_q2d(m_stream->time_base) - double(m_input->startTime()) / AV_TIME_BASE;
+}

@@ -1,0 +1,126 @@
+#include "VideoSource.h"
+
+#include "PictureScaler.h"
+#include "SourceProbe.h"
+#include "TitleStreams.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Two time stamps of one moment may differ by the rounding of their units.
+constexpr double SameMoment = 0.0015;
+
+} // namespace
+
+std::unique_ptr<VideoSource> VideoSource::open(const std::string &path, int title, Deadline &deadline)
+{
+    std::unique_ptr<VideoSource> source(new VideoSource(deadline));
+    const bool isDisc = SourceProbe::isDisc(SourceProbe::form(path));
+    if (isDisc ? !source->openTitle(path, title) : !source->openFile(path))
+        return nullptr;
+    return source;
+}
+
+bool VideoSource::openFile(const std::string &path)
+{
+    auto file = std::make_unique<FileStream>();
+    if (!file->open(path))
+        return false;
+    m_stream = std::move(file);
+    return beginInput(path, nullptr);
+}
+
+bool VideoSource::openTitle(const std::string &path, int title)
+{
+    std::unique_ptr<TitleStream> stream = openTitleStream(path, title);
+    if (!stream)
+        return false;
+    m_title = stream.get();
+    m_stream = std::move(stream);
+    return beginInput(path, m_title->format());
+}
+
+bool VideoSource::beginInput(const std::string &path, const char *format)
+{
+    m_decoder.reset();
+    m_input = std::make_unique<MediaInput>(*m_stream, m_deadline);
+    if (!m_input->open(path, format))
+        return false;
+    m_index = m_input->videoStream();
+    m_decoder = std::make_unique<FrameDecoder>();
+    if (m_index < 0 || !m_decoder->open(*m_input, m_index))
+        return false;
+    m_input->selectOnly(m_index);
+    return true;
+}
+
+double VideoSource::duration() const
+{
+    return m_title ? m_title->duration() : m_input->duration();
+}
+
+bool VideoSource::seekFile(double seconds)
+{
+    AVFormatContext *context = m_input->context();
+    const std::int64_t target = m_input->startTime() + std::int64_t(seconds * AV_TIME_BASE);
+    m_decoder->flush();
+    const AVRational unit = context->streams[m_index]->time_base;
+    if (av_seek_frame(context, m_index, av_rescale_q(target, {1, AV_TIME_BASE}, unit), AVSEEK_FLAG_BACKWARD)
+        >= 0)
+        return true;
+    // Some demuxers only find the beginning again.
+    return avformat_seek_file(context, -1, INT64_MIN, target, target, 0) >= 0
+           || av_seek_frame(context, m_index, 0, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_BYTE) >= 0
+           || seconds <= 0.0;
+}
+
+bool VideoSource::seekTitle(double &seconds)
+{
+    // The time stamps of a disc start anew at any cell or clip: what counts is the time since the entry
+    // point.
+    const double entry = m_title->seekSeconds(std::max(0.0, seconds));
+    if (entry < 0 || !beginInput({}, m_title->format()))
+        return false;
+    seconds = std::max(0.0, seconds - entry);
+    return true;
+}
+
+AvFrame VideoSource::frameAt(double seconds, bool exact)
+{
+    double target = seconds;
+    if (m_title ? !seekTitle(target) : !seekFile(target))
+        return nullptr;
+    m_decoder->setKeyFramesOnly(!exact);
+    AvFrame best;
+    while (AvFrame frame = m_decoder->next()) {
+        if (!exact)
+            return frame;
+        const double time = m_decoder->secondsOf(*frame);
+        const bool reached = !std::isnan(time) && time >= target - SameMoment;
+        if (!best || !reached || time <= target + SameMoment)
+            best = std::move(frame);
+        if (reached)
+            break;
+    }
+    return best;
+}
+
+bool VideoSource::grab(double seconds, bool exact, int width, int height, Picture &picture)
+{
+    seconds = std::max(0.0, seconds);
+    AvFrame frame = frameAt(seconds, exact);
+    // Streams that refresh bit by bit mark no frame as a key frame.
+    if (!frame && !exact && !m_deadline.isOver())
+        frame = frameAt(seconds, true);
+    if (!frame)
+        return false;
+    AVStream *stream = m_input->context()->streams[m_index];
+    const AVRational aspect = av_guess_sample_aspect_ratio(m_input->context(), stream, frame.get());
+    if (!PictureScaler::scale(*frame, aspect, PictureScaler::quarterTurns(*stream), width, height, picture))
+        return false;
+    const double time = m_title ? seconds : m_decoder->secondsOf(*frame);
+    picture.positionMs = int(std::lround((std::isnan(time) ? seconds : std::max(0.0, time)) * 1000.0));
+    return true;
+}

@@ -1,0 +1,150 @@
+#include "NormalDialogFrame.h"
+
+#include "DialogLook.h"
+
+#include "platform/Compositing.h"
+#include "ui/LookTokens.h"
+#include "ui/PictureButton.h"
+#include "ui/QShadowWnd.h"
+#include "ui/RoundCorners.h"
+
+#include <QFrame>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+// Design pixels.
+constexpr QSize CloseSize{36, 32};
+constexpr int CloseIcon = 20;
+
+} // namespace
+
+NormalDialogFrame::NormalDialogFrame(const QString &title, QWidget *parent)
+    : QMoveableNoBordersWnd(parent)
+{
+    setTitleHeight(Look::px(DialogLook::TitleHeight));
+    setFont(Look::font(14));
+
+    m_panel = new QFrame(this);
+    m_panel->setObjectName(QLatin1String(DialogLook::Panel));
+    RoundCorners::prepare(this, m_panel);
+    auto *outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(m_panel);
+
+    m_title = new QLabel(m_panel);
+    m_title->setObjectName(QLatin1String(DialogLook::Title));
+    auto *closeButton = new PictureButton(QStringLiteral("window_close"), m_panel);
+    closeButton->setObjectName(QLatin1String(DialogLook::CloseButton));
+    closeButton->setDesignSize(CloseSize, CloseIcon);
+    closeButton->setToolTip(tr("Close"));
+    closeButton->setAccessibleName(tr("Close"));
+    closeButton->setAutoDefault(false);
+    connect(closeButton, &QPushButton::clicked, this, &NormalDialogFrame::slot_close);
+
+    auto *titleRow = new QHBoxLayout;
+    titleRow->setContentsMargins(Look::px(16), Look::px(6), Look::px(6), Look::px(6));
+    titleRow->addWidget(m_title, 1);
+    titleRow->addWidget(closeButton);
+
+    m_body = new QVBoxLayout;
+    m_body->setContentsMargins(Look::px(DialogLook::SideMargin), Look::px(8),
+                               Look::px(DialogLook::SideMargin), Look::px(DialogLook::BottomMargin));
+    m_body->setSpacing(0);
+
+    auto *layout = new QVBoxLayout(m_panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(titleRow);
+    layout->addLayout(m_body, 1);
+
+    setTitle(title);
+    setStyleSheet(DialogLook::styleSheet());
+}
+
+NormalDialogFrame::~NormalDialogFrame() = default;
+
+void NormalDialogFrame::setTitle(const QString &title)
+{
+    m_title->setText(title);
+    setWindowTitle(title);
+    setAccessibleName(title);
+}
+
+QString NormalDialogFrame::title() const
+{
+    return m_title->text();
+}
+
+QPushButton *NormalDialogFrame::makeButton(const QString &text, QWidget *parent)
+{
+    auto *button = new QPushButton(text, parent);
+    button->setObjectName(QLatin1String(DialogLook::Button));
+    return button;
+}
+
+int NormalDialogFrame::screenHeight() const
+{
+    const QWidget *place = parentWidget() ? parentWidget()->window() : this;
+    const QWindow *window = place->windowHandle();
+    const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry().height() : Look::px(1080);
+}
+
+void NormalDialogFrame::slot_close()
+{
+    QMoveableNoBordersWnd::reject();
+}
+
+void NormalDialogFrame::reject()
+{
+    slot_close();
+}
+
+void NormalDialogFrame::showEvent(QShowEvent *event)
+{
+    QMoveableNoBordersWnd::showEvent(event);
+    showShadow();
+}
+
+// The shadow is mapped before the dialog and belongs to the same main window, which keeps it between the two.
+void NormalDialogFrame::showShadow()
+{
+    if (!isWindow() || !Compositing::isActive())
+        return;
+    if (!m_shadow) {
+        m_shadow = std::make_unique<QShadowWnd>(this, QShadowPainter::Set::SubWindow);
+        m_shadow->setAttribute(Qt::WA_TransparentForMouseEvents);
+        m_shadow->winId();
+        if (parentWidget() && parentWidget()->window()->windowHandle())
+            m_shadow->windowHandle()->setTransientParent(parentWidget()->window()->windowHandle());
+    }
+    m_shadow->show();
+}
+
+void NormalDialogFrame::hideEvent(QHideEvent *event)
+{
+    QMoveableNoBordersWnd::hideEvent(event);
+    if (m_shadow)
+        m_shadow->hide();
+}
+
+void NormalDialogFrame::moveEvent(QMoveEvent *event)
+{
+    QMoveableNoBordersWnd::moveEvent(event);
+    if (m_shadow)
+        m_shadow->slot_updatePosition(pos());
+}
+
+void NormalDialogFrame::resizeEvent(QResizeEvent *event)
+{
+    QMoveableNoBordersWnd::resizeEvent(event);
+    if (!m_shadow)
+        return;
+    const QMargins around = QShadowWnd::Margins;
+    m_shadow->resize(size().grownBy(around));
+}

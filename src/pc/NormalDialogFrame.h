@@ -1,0 +1,53 @@
+// Frame of the dialogs of PC mode: panel with a title area that moves it, a close button, and a shadow where
+// the desktop blends windows.
+//
+// Owns its shadow window. Escape and the close button both end in slot_close(). GUI thread.
+#pragma once
+
+#include "ui/QMoveableNoBordersWnd.h"
+
+#include <memory>
+
+class QFrame;
+class QLabel;
+class QPushButton;
+class QShadowWnd;
+class QVBoxLayout;
+
+class NormalDialogFrame : public QMoveableNoBordersWnd {
+    Q_OBJECT
+
+public:
+    NormalDialogFrame(const QString &title, QWidget *parent);
+    ~NormalDialogFrame() override;
+
+    void setTitle(const QString &title);
+    [[nodiscard]] QString title() const;
+
+public slots:
+    // Ends the dialog as its close button does.
+    virtual void slot_close();
+    void reject() override;
+
+protected:
+    // Where a dialog puts its parts; already has the margins.
+    [[nodiscard]] QVBoxLayout *body() const { return m_body; }
+    [[nodiscard]] QFrame *panel() const { return m_panel; }
+    // A button in the look of the family.
+    [[nodiscard]] static QPushButton *makeButton(const QString &text, QWidget *parent);
+    // Height of the screen that the dialog opens on, without what the desktop keeps for itself.
+    [[nodiscard]] int screenHeight() const;
+
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void showShadow();
+
+    QFrame *m_panel{nullptr};
+    QLabel *m_title{nullptr};
+    QVBoxLayout *m_body{nullptr};
+    std::unique_ptr<QShadowWnd> m_shadow;
+};

@@ -1,0 +1,14 @@
+#include "EndRule.h"
+
+namespace EndRule {
+
+Next after(const State &state, const std::function<bool(const QString &)> &exists)
+{
+    if (state.closeAtEnd)
+        return Next::CloseWindow;
+    if (!state.nextEpisode.isEmpty() && exists(state.nextEpisode))
+        return Next::PlayNextEpisode;
+    return state.queueGoesOn ? Next::PlayNextInQueue : Next::BackToSelectView;
+}
+
+} // namespace EndRule

@@ -2,6 +2,7 @@
 
 #include "KeyMapTables.h"
 
+#include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
 
 #include <QKeyEvent>
@@ -127,7 +128,7 @@ void AppEventFilter::handlePcKey(const QKeyEvent *event)
     const int type = KeyMapTables::operationOf(m_pcKeyMap, keyValue(event));
     if (type < 0 || m_keyBlocked)
         return;
-    if (CommonInfoManager::instance()->isHotKeyDebug())
+    if (ApplicationInfoManager::debugHotKey())
         qInfo().noquote() << QStringLiteral("[PC_Hotkey] pc send key type: %1").arg(type);
     emit SIG_PcKeyOperate(KeyOperateType(type));
 }
@@ -151,7 +152,7 @@ bool AppEventFilter::handleTvKey(const QKeyEvent *event)
     const int type = KeyMapTables::operationOf(m_tvKeyMap, keyValue(event));
     if (type < 0 || m_keyBlocked)
         return true;
-    if (CommonInfoManager::instance()->isHotKeyDebug())
+    if (ApplicationInfoManager::debugHotKey())
         qInfo().noquote() << QStringLiteral("[TV_Hotkey] tv send key type: %1").arg(type);
     emit SIG_TvkeyOperate(KeyOperateType(type));
     return true;

@@ -1,0 +1,273 @@
+#include "NormalPlayControl.h"
+
+#include "core/CommunicationManager.h"
+#include "core/SettingsKeys.h"
+#include "core/SettingsManager.h"
+#include "playcontrol/DiscEventRule.h"
+#include "playcontrol/EndRule.h"
+#include "playcontrol/ErrorNote.h"
+#include "playcontrol/PlayFailure.h"
+#include "playcontrol/ResumeRule.h"
+#include "player/DeferredSetup.h"
+
+#include <QFileInfo>
+#include <QTimer>
+
+#include <mutex>
+#include <optional>
+
+namespace {
+
+constexpr int kTracksAfterMs = 1000;
+constexpr char kVideo[] = "Video";
+constexpr char kAudio[] = "Audio";
+constexpr char kPlayMode[] = "PC";
+
+PositionStore::Stop stopOf(const vdStopPlayInfo &info, const QImage &lastFrame)
+{
+    PositionStore::Stop stop;
+    stop.path = QString::fromUtf8(info.path);
+    stop.positionMs = info.positionMs;
+    stop.totalMs = info.totalMs;
+    stop.reachedEnd = info.reachedEnd != 0;
+    stop.lastFrame = lastFrame;
+    return stop;
+}
+
+} // namespace
+
+NormalPlayControl::NormalPlayControl(SettingsManager &settings, DeferredSetup &setUp, PlaySourcePath paths,
+                                     QObject *parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_setUp(setUp)
+    , m_paths(std::move(paths))
+    , m_positions(settings)
+    , m_playThread(&NormalPlayControl::playFunction, this)
+    , m_stopThread(&NormalPlayControl::stopFunction, this)
+{
+}
+
+NormalPlayControl::~NormalPlayControl()
+{
+    shutDown();
+}
+
+void NormalPlayControl::connectPlayer(QPlayer *player)
+{
+    m_player = player;
+    connect(player, &QPlayer::sig_playStatusChanged, this, &NormalPlayControl::slot_responsePlayState);
+    connect(player, &QPlayer::sig_stopInfoChanged, this, &NormalPlayControl::slot_responseStopInfo);
+    connect(player, &QPlayer::sig_videoInfoChanged, this, &NormalPlayControl::slot_responseVideoInfo);
+    connect(player, &QPlayer::sig_playFailChanged, this, &NormalPlayControl::slot_responsePlayFail);
+    connect(player, &QPlayer::sig_errorOccured, this, &NormalPlayControl::slot_solveError);
+    connect(player, &QPlayer::sig_DiscEventOccured, this, &NormalPlayControl::slot_responseDiscEvent);
+}
+
+bool NormalPlayControl::play(const QString &path, int title)
+{
+    if (m_isClosing || m_setUp.hasFailed() || m_playThread.isRunning()) {
+        qInfo().noquote() << "[Play control] request dropped:" << path;
+        return false;
+    }
+    const PlaySource source = m_paths.resolve(path);
+    m_currentPath = source.path;
+    m_displayName = source.displayName;
+    m_titleNumber = title;
+    m_sourceKind = source.kind;
+    m_hasSource = true;
+
+    const PositionStore::Entry stored = m_positions.read(
+        ResumeRule::storeKey(m_currentPath, source.kind == PlaySource::Disc ? m_displayName : QString()));
+    m_resumePending = true;
+    m_resumeSeconds = ResumeRule::startSeconds(m_positions.remembersPosition(), stored.seconds);
+
+    m_order = {m_currentPath, m_sourceKind, m_titleNumber, source.cueTitle, m_resumeSeconds};
+    emit sourceAccepted(m_displayName);
+    m_setUp.start();
+    m_playThread.start(QThread::InheritPriority);
+    return true;
+}
+
+void NormalPlayControl::playFunction(void *self)
+{
+    static_cast<NormalPlayControl *>(self)->runOrder();
+}
+
+void NormalPlayControl::stopFunction(void *self)
+{
+    static_cast<NormalPlayControl *>(self)->m_player->stop();
+}
+
+// On the play thread.
+void NormalPlayControl::runOrder()
+{
+    // A stop that was asked for before this request must not end it.
+    m_stopThread.wait();
+    if (!m_setUp.waitUntilDone()) {
+        QMetaObject::invokeMethod(this, &NormalPlayControl::finishEnded, Qt::QueuedConnection);
+        return;
+    }
+    QPlayer &player = *m_setUp.player();
+    PlayRunner::close(player);
+    QMetaObject::invokeMethod(
+        this, [this] { emit waitingChanged(true); }, Qt::QueuedConnection);
+    PlayRunner::open(player, m_order);
+}
+
+void NormalPlayControl::shutDown()
+{
+    if (m_isClosing)
+        return;
+    m_isClosing = true;
+    std::mutex mutex;
+    std::optional<PositionStore::Stop> last;
+    QMetaObject::Connection lastStop;
+    if (m_player != nullptr) {
+        disconnect(m_player, nullptr, this, nullptr);
+        // No queued slot runs any more, but where this source was left is still to be kept.
+        QPlayer *player = m_player;
+        lastStop = connect(
+            m_player, &QPlayer::sig_stopInfoChanged, this,
+            [player, &mutex, &last](const vdStopPlayInfo &info) {
+                const std::lock_guard lock(mutex);
+                last = stopOf(info, player->lastFrame());
+            },
+            Qt::DirectConnection);
+        // Also ends an open that hangs on its disc.
+        m_player->stop();
+    }
+    m_playThread.wait();
+    m_stopThread.wait();
+    if (m_player != nullptr)
+        m_player->stop();
+    disconnect(lastStop);
+    m_hasSource = false;
+    const std::lock_guard lock(mutex);
+    if (last)
+        m_positions.record(*last, last->path.size() == 1 ? m_displayName : QString());
+}
+
+void NormalPlayControl::slot_stopLater()
+{
+    QTimer::singleShot(0, this, [this] {
+        stopOnThread();
+        finishEnded();
+    });
+}
+
+void NormalPlayControl::slot_onlyStopLater()
+{
+    QTimer::singleShot(0, this, &NormalPlayControl::stopOnThread);
+}
+
+// The engine may take its time to close a disc; the window does not wait for it.
+void NormalPlayControl::stopOnThread()
+{
+    if (m_player != nullptr && !m_isClosing && !m_stopThread.isRunning())
+        m_stopThread.start(QThread::InheritPriority);
+}
+
+void NormalPlayControl::finishEnded()
+{
+    m_hasSource = false;
+    m_resumePending = false;
+    emit waitingChanged(false);
+    emit idle();
+    emit selectViewWanted();
+}
+
+void NormalPlayControl::slot_responsePlayState(QPlayer::QPlayerStatus status)
+{
+    switch (status) {
+    case QPlayer::QPlayerStatus_Playing:
+        emit waitingChanged(false);
+        m_settings.setValue(QLatin1String(SettingsKeys::PC_Played), true);
+        emit playing();
+        QTimer::singleShot(0, CommunicationManager::instance(), [] {
+            emit CommunicationManager::instance()->SIG_sendMsgToUpdate(SendMsgType::Close);
+        });
+        break;
+    case QPlayer::QPlayerStatus_Stopped:
+    case QPlayer::QPlayerStatus_Failed:
+        emit idle();
+        break;
+    case QPlayer::QPlayerStatus_Ended: {
+        const auto exists = [](const QString &path) { return QFileInfo::exists(path); };
+        emit idle();
+        if (EndRule::after({m_closeAtEnd, {}, false}, exists) == EndRule::Next::CloseWindow) {
+            emit closeWanted();
+            break;
+        }
+        slot_onlyStopLater();
+        QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void NormalPlayControl::slot_responseStopInfo(vdStopPlayInfo info)
+{
+    const PositionStore::Stop stop = stopOf(info, m_player != nullptr ? m_player->lastFrame() : QImage());
+    m_positions.record(stop, stop.path.size() == 1 ? m_displayName : QString());
+    QTimer::singleShot(0, this, [this] {
+        // The stop may belong to the source before the one that is being opened.
+        if (!m_playThread.isRunning())
+            emit waitingChanged(false);
+    });
+}
+
+void NormalPlayControl::slot_responseVideoInfo(vdFileInfo info)
+{
+    m_mediaKind = QLatin1String(info.audioOnly != 0 ? kAudio : kVideo);
+    qInfo() << "[Play control] Enter slot_responseVideoInfo";
+    m_player->setAuthorInfo(0);
+    emit sourceOpened(info.audioOnly == 0);
+    QTimer::singleShot(kTracksAfterMs, this, &NormalPlayControl::slot_setupLastPositionAudioSub);
+}
+
+void NormalPlayControl::slot_setupLastPositionAudioSub()
+{
+    if (!m_resumePending || !m_hasSource || m_player == nullptr)
+        return;
+    const int audio = m_positions.read(m_currentPath).audioIndex;
+    if (m_resumeSeconds > 0 && audio > 0)
+        m_player->setAudioTrack(audio);
+    m_resumePending = false;
+}
+
+void NormalPlayControl::slot_responsePlayFail(int errCode, vdFileInfo info)
+{
+    Q_UNUSED(info)
+    emit waitingChanged(false);
+    qInfo().noquote() << PlayFailure::logLine(errCode);
+    emit failureToTell(errCode);
+}
+
+void NormalPlayControl::failureRead(int errCode)
+{
+    const QStringList lines = PlayFailure::reportLines(errCode, 0, QLatin1String(kPlayMode));
+    for (const QString &line : lines)
+        qInfo().noquote() << line;
+    slot_stopLater();
+}
+
+void NormalPlayControl::slot_solveError(VD_ErrorCallbackType type)
+{
+    qInfo().noquote() << ErrorNote::logLine(int(type));
+    const ErrorNote::Row *row = ErrorNote::rowOf(int(type));
+    if (row == nullptr)
+        return;
+    if (ErrorNote::isShown(*row, m_settings))
+        emit noteToTell(int(type));
+    if (row->stopsPlay)
+        slot_stopLater();
+}
+
+void NormalPlayControl::slot_responseDiscEvent(char cDrive, VD_OPTRA_DISC_NOTIFY_TYPE NotifyType)
+{
+    if (DiscEventRule::stopsPlay(cDrive, int(NotifyType), m_currentPath))
+        slot_stopLater();
+}

@@ -1,0 +1,102 @@
+// The path of one play request in PC mode, from a string to the first frame and to the end of playback.
+//
+// Has no widgets: what the window shows follows from the signals. Lives on the GUI thread; the open itself
+// runs on a thread of its own, one at a time, and a request that comes meanwhile is dropped. Owns its
+// threads, not the settings and not the set-up of the engine.
+#pragma once
+
+#include "core/QSimpleThreadPack.h"
+#include "playcontrol/PositionStore.h"
+#include "player/PlayOrder.h"
+#include "player/PlaySourcePath.h"
+#include "player/QPlayer.h"
+
+#include <QObject>
+#include <QSize>
+
+class DeferredSetup;
+class SettingsManager;
+
+class NormalPlayControl final : public QObject {
+    Q_OBJECT
+public:
+    NormalPlayControl(SettingsManager &settings, DeferredSetup &setUp, PlaySourcePath paths,
+                      QObject *parent = nullptr);
+    ~NormalPlayControl() override;
+
+    // False when the request was dropped: the engine can't play, or an open is under way.
+    bool play(const QString &path, int title = -1);
+
+    void setCloseAtEnd(bool close) { m_closeAtEnd = close; }
+    [[nodiscard]] bool closesAtEnd() const { return m_closeAtEnd; }
+
+    [[nodiscard]] bool isOpening() const { return m_playThread.isRunning(); }
+    // A source is on its way or plays.
+    [[nodiscard]] bool hasSource() const { return m_hasSource; }
+    [[nodiscard]] QString currentPath() const { return m_currentPath; }
+    [[nodiscard]] QString displayName() const { return m_displayName; }
+    [[nodiscard]] QString mediaKind() const { return m_mediaKind; }
+    [[nodiscard]] int resumeSeconds() const { return m_resumeSeconds; }
+    [[nodiscard]] bool isResumePending() const { return m_resumePending; }
+
+    void connectPlayer(QPlayer *player);
+
+    // For a window that goes: no signal of the engine arrives any more, playback is stopped and its thread
+    // awaited.
+    void shutDown();
+
+public slots:
+    // Stop on a later turn of the event loop, and back to the start view.
+    void slot_stopLater();
+    // The same, but the view stays.
+    void slot_onlyStopLater();
+
+    void slot_responsePlayState(QPlayer::QPlayerStatus status);
+    void slot_responseStopInfo(vdStopPlayInfo info);
+    void slot_responseVideoInfo(vdFileInfo info);
+    void slot_responsePlayFail(int errCode, vdFileInfo info);
+    void slot_solveError(VD_ErrorCallbackType type);
+    void slot_responseDiscEvent(char cDrive, VD_OPTRA_DISC_NOTIFY_TYPE NotifyType);
+    void slot_setupLastPositionAudioSub();
+
+    // The user has read why a source can't be played.
+    void failureRead(int errCode);
+
+signals:
+    void sourceAccepted(const QString &displayName);
+    void waitingChanged(bool waiting);
+    void sourceOpened(bool isVideo);
+    void playing();
+    void idle();
+    void selectViewWanted();
+    void closeWanted();
+    void failureToTell(int errCode);
+    void noteToTell(int type);
+
+private:
+    static void playFunction(void *self);
+    static void stopFunction(void *self);
+    void runOrder();
+    void stopOnThread();
+    void finishEnded();
+
+    SettingsManager &m_settings;
+    DeferredSetup &m_setUp;
+    PlaySourcePath m_paths;
+    PositionStore m_positions;
+    QPlayer *m_player{nullptr};
+    QSimpleThreadPack m_playThread;
+    QSimpleThreadPack m_stopThread;
+    PlayOrder m_order;
+
+    QString m_currentPath;
+    QString m_displayName;
+    QString m_mediaKind;
+    int m_titleNumber{-1};
+    int m_sourceKind{PlaySource::File};
+    int m_resumeSeconds{0};
+    bool m_resumePending{false};
+    bool m_closeAtEnd{false};
+    bool m_hasSource{false};
+    bool m_isClosing{false};
+};

@@ -1,0 +1,72 @@
+#include "DeferredSetup.h"
+
+#include "QPlayer.h"
+
+DeferredSetup::DeferredSetup(QWidget *surface, QObject *parent)
+    : QObject(parent)
+    , m_surface(surface)
+{
+    connect(&m_worker, &QThread::finished, this, &DeferredSetup::goOn);
+}
+
+DeferredSetup::~DeferredSetup()
+{
+    cancel();
+}
+
+void DeferredSetup::start()
+{
+    if (m_started || m_outcome != Pending)
+        return;
+    m_started = true;
+    m_worker.setFunction([](void *) { (void)QPlayer::instance(); }, nullptr);
+    m_worker.start();
+}
+
+// After each step of the worker, on the GUI thread.
+void DeferredSetup::goOn()
+{
+    if (m_outcome != Pending)
+        return;
+    if (m_toolStep) {
+        finish(m_player->rendererFailed() ? Failed : Ready);
+        return;
+    }
+    m_player = QPlayer::instance();
+    emit playerMade(m_player);
+    if (m_player->rendererFailed() || m_surface.isNull()) {
+        finish(Failed);
+        return;
+    }
+    m_player->setVideoParent(m_surface, m_surface->winId());
+    m_toolStep = true;
+    m_worker.setFunction([](void *player) { (void)static_cast<QPlayer *>(player)->ensureTool(); }, m_player);
+    m_worker.start();
+}
+
+void DeferredSetup::finish(Outcome outcome)
+{
+    {
+        std::lock_guard lock(m_mutex);
+        m_outcome = outcome;
+    }
+    m_done.notify_all();
+    if (outcome == Ready)
+        emit ready();
+    else if (outcome == Failed)
+        emit failed();
+}
+
+bool DeferredSetup::waitUntilDone()
+{
+    std::unique_lock lock(m_mutex);
+    m_done.wait(lock, [this] { return m_outcome != Pending; });
+    return m_outcome == Ready;
+}
+
+void DeferredSetup::cancel()
+{
+    m_worker.wait();
+    if (m_outcome == Pending)
+        finish(Cancelled);
+}

@@ -1,5 +1,7 @@
 #include "QSimpleThreadPack.h"
 
+#include "QMutexGuard.h"
+
 #include <QDebug>
 
 #include <exception>
@@ -19,12 +21,14 @@ QSimpleThreadPack::QSimpleThreadPack(Function function, void *argument, QObject 
 QSimpleThreadPack::~QSimpleThreadPack()
 {
     wait();
+    QUORIN_HAPPENS_AFTER(this);
 }
 
 bool QSimpleThreadPack::setFunction(Function function, void *argument)
 {
     if (isRunning())
         return false;
+    QUORIN_HAPPENS_AFTER(this);
     fn = function;
     arg = argument;
     return true;
@@ -32,13 +36,13 @@ bool QSimpleThreadPack::setFunction(Function function, void *argument)
 
 void QSimpleThreadPack::run()
 {
-    if (!fn)
-        return;
     try {
-        fn(arg);
+        if (fn)
+            fn(arg);
     } catch (const std::exception &error) {
         qInfo() << "[Process] one-shot thread ended by an error:" << error.what();
     } catch (...) {
         qInfo() << "[Process] one-shot thread ended by an unknown error";
     }
+    QUORIN_HAPPENS_BEFORE(this);
 }

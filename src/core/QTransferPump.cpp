@@ -44,8 +44,9 @@ struct QTransferPump::State : std::enable_shared_from_this<QTransferPump::State>
             std::remove_if(pending.begin(), pending.end(), [](const auto &p) { return p.expired(); }),
             pending.end());
         pending.push_back(call);
+        auto *event = new QKelCustomEvent_Function(call);
         QUORIN_HAPPENS_BEFORE(pump);
-        QCoreApplication::postEvent(pump, new QKelCustomEvent_Function(call));
+        QCoreApplication::postEvent(pump, event);
         return true;
     }
 

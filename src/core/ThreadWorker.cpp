@@ -1,6 +1,7 @@
 #include "ThreadWorker.h"
 
 #include "Noticeer.h"
+#include "QMutexGuard.h"
 #include "TaskQueue.h"
 #include "Worker.h"
 
@@ -61,6 +62,7 @@ bool ThreadWorker::stop(int timeoutMs)
     bool all = true;
     for (const PoolThread &pool : m_threads) {
         if (pool.thread->wait(deadline)) {
+            QUORIN_HAPPENS_AFTER(m_queue.get());
             delete pool.worker;
             delete pool.thread;
         } else {

@@ -1,5 +1,7 @@
 #include "Worker.h"
 
+#include "QMutexGuard.h"
+
 #include <QDebug>
 #include <QThread>
 
@@ -22,6 +24,7 @@ void Worker::slot_run()
         task->work = nullptr;
         m_queue->reportEnd(std::move(*task));
     }
+    QUORIN_HAPPENS_BEFORE(m_queue.get());
     QThread::currentThread()->quit();
 }
 

@@ -1,5 +1,6 @@
 #include "core/QTransferPump.h"
 
+#include "core/QMutexGuard.h"
 #include "support/TestLog.h"
 
 #include <QElapsedTimer>
@@ -52,6 +53,7 @@ protected:
     {
         m_thread.quit();
         m_thread.wait();
+        QUORIN_HAPPENS_AFTER(static_cast<testing::Test *>(this));
         delete m_pump;
     }
 
@@ -147,6 +149,7 @@ TEST_F(QTransferPumpTest, ThePumpsDeathWakesWhoeverWaits)
         gate.pass();
         delete m_pump;
         m_pump = nullptr;
+        QUORIN_HAPPENS_BEFORE(static_cast<testing::Test *>(this));
     });
     auto waiting = std::async(std::launch::async, [&] { return link.call([] { FAIL(); }); });
     // The call is in the queue once another one behind it could be given up.

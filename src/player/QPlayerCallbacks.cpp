@@ -42,6 +42,7 @@ void QPlayer::setStatus(QPlayerStatus status)
 void QPlayer::setMeta(QPlayerMetaType type, const QString &text)
 {
     QString line = text;
+    QString copy = text;
     {
         std::lock_guard lock(m_stateMutex);
         QString *kept = type == QPlayerMetaType_Video          ? &m_videoMeta
@@ -49,7 +50,7 @@ void QPlayer::setMeta(QPlayerMetaType type, const QString &text)
                         : type == QPlayerMetaType_Further      ? &m_furtherMeta
                                                                : nullptr;
         if (kept) {
-            *kept = text;
+            kept->swap(copy);
             QStringList parts{m_videoMeta, m_rangeMeta, m_furtherMeta};
             parts.removeAll(QString());
             line = parts.join(QStringLiteral(" | "));

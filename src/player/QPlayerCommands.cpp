@@ -18,8 +18,9 @@ constexpr int enableSpeed = 1;
 
 void QPlayer::setSource(const QString &path)
 {
+    QString copy = path;
     std::lock_guard lock(m_stateMutex);
-    m_sourcePath = path;
+    m_sourcePath.swap(copy);
 }
 
 void QPlayer::setSourceType(int type)

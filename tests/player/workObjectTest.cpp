@@ -58,7 +58,10 @@ TEST_F(WorkObject, ASeekDoesNotOvertakeAResize)
 TEST_F(WorkObject, SetsUp3D)
 {
     start();
+    engine.hold("IVDPlayTool::set3DEngine");
     emit owner.sig_setup3D();
+    ASSERT_TRUE(engine.waitHeld("IVDPlayTool::set3DEngine"));
+    engine.release("IVDPlayTool::set3DEngine");
     EXPECT_TRUE(engine.waitCall("IVDPlayTool::setIntProperty(videoscreen.stereoscopicmode"));
 }
 

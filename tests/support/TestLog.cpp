@@ -1,16 +1,14 @@
 #include "TestLog.h"
 
-#include <QMutex>
-#include <QMutexLocker>
-
 #include <cstdio>
+#include <mutex>
 
 namespace TestLog {
 
 namespace {
 
 struct State {
-    QMutex mutex;
+    std::mutex mutex; // one that ThreadSanitizer sees
     QList<QRegularExpression> expected;
     QStringList unexpected;
     QStringList infos;
@@ -25,7 +23,7 @@ State &state()
 void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     State &s = state();
-    QMutexLocker lock(&s.mutex);
+    std::lock_guard lock(s.mutex);
     if (type == QtInfoMsg) {
         s.infos << text;
         return;
@@ -53,14 +51,14 @@ void install()
 void expectWarning(const QRegularExpression &pattern)
 {
     State &s = state();
-    QMutexLocker lock(&s.mutex);
+    std::lock_guard lock(s.mutex);
     s.expected << pattern;
 }
 
 QStringList takeUnexpected()
 {
     State &s = state();
-    QMutexLocker lock(&s.mutex);
+    std::lock_guard lock(s.mutex);
     QStringList lines;
     lines.swap(s.unexpected);
     return lines;
@@ -69,14 +67,14 @@ QStringList takeUnexpected()
 QStringList infoLines()
 {
     State &s = state();
-    QMutexLocker lock(&s.mutex);
+    std::lock_guard lock(s.mutex);
     return s.infos;
 }
 
 void reset()
 {
     State &s = state();
-    QMutexLocker lock(&s.mutex);
+    std::lock_guard lock(s.mutex);
     s.expected.clear();
     s.unexpected.clear();
     s.infos.clear();

@@ -1,0 +1,14 @@
+// Names under which use of the transport controls is counted.
+#pragma once
+
+namespace BehaviourNames {
+
+inline constexpr char FastUsed[] = "FastUsed";
+inline constexpr char RewindUsed[] = "RewindUsed";
+inline constexpr char LastChapterUsed[] = "LastChapterUsed";
+inline constexpr char NextChapterUsed[] = "NextChapterUsed";
+inline constexpr char FrameOperateUsed[] = "FrameOperateUsed";
+// Value of each of them.
+inline constexpr char Used[] = "true";
+
+} // namespace BehaviourNames

@@ -1,0 +1,160 @@
+#include "NormalMetaView.h"
+
+#include "core/SettingsKeys.h"
+#include "core/SettingsManager.h"
+#include "ui/FixedDigits.h"
+#include "ui/LookTokens.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace {
+
+struct Row {
+    QPlayer::QPlayerMetaType type;
+    const char *label;
+};
+
+constexpr Row kRows[] = {
+    {QPlayer::QPlayerMetaType_Video, QT_TRANSLATE_NOOP("NormalMetaView", "Video")},
+    {QPlayer::QPlayerMetaType_Audio, QT_TRANSLATE_NOOP("NormalMetaView", "Audio")},
+    {QPlayer::QPlayerMetaType_Subtitle, QT_TRANSLATE_NOOP("NormalMetaView", "Subtitle")},
+    {QPlayer::QPlayerMetaType_Title, QT_TRANSLATE_NOOP("NormalMetaView", "Title")},
+    {QPlayer::QPlayerMetaType_Chapter, QT_TRANSLATE_NOOP("NormalMetaView", "Chapter")},
+    {QPlayer::QPlayerMetaType_Time, QT_TRANSLATE_NOOP("NormalMetaView", "Time")},
+};
+
+// Design pixels.
+constexpr int kNameFont = 15;
+constexpr int kLineFont = 13;
+constexpr int kLineHeight = 24;
+constexpr int kNameHeight = 32;
+constexpr int kSide = 16;
+constexpr int kTop = 10;
+constexpr int kGap = 16;
+constexpr int kWidest = 560;
+
+int labelWidth(const QVector<QPair<QString, QString>> &lines, const QFontMetrics &metrics)
+{
+    int widest = 0;
+    for (const auto &line : lines)
+        widest = qMax(widest, metrics.horizontalAdvance(line.first));
+    return widest;
+}
+
+} // namespace
+
+NormalMetaView::NormalMetaView(QWidget *parent)
+    : NormalMetaView(*SettingsManager::instance(), parent)
+{
+}
+
+NormalMetaView::NormalMetaView(SettingsManager &settings, QWidget *parent)
+    : OverlayWidget(parent)
+    , m_settings(settings)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+void NormalMetaView::setDisplayName(const QString &name)
+{
+    m_name = name;
+    m_texts.clear();
+    m_widest = 0;
+    textChanged();
+    updateShown();
+}
+
+void NormalMetaView::clear()
+{
+    setDisplayName({});
+}
+
+void NormalMetaView::updateShown()
+{
+    const bool wanted =
+        !m_name.isEmpty() && m_settings.valueOr(QLatin1String(SettingsKeys::PC_ShowMeta), false);
+    wanted ? appear() : disappear();
+}
+
+void NormalMetaView::slot_setMetaInfo(QPlayer::QPlayerMetaType type, QString strInfo)
+{
+    // These three come as one line, whichever of them has changed.
+    const bool isVideo =
+        type == QPlayer::QPlayerMetaType_DynamicRange || type == QPlayer::QPlayerMetaType_Further;
+    const int row = isVideo ? QPlayer::QPlayerMetaType_Video : type;
+    if (m_texts.value(row) == strInfo)
+        return;
+    m_texts[row] = strInfo;
+    textChanged();
+}
+
+QVector<QPair<QString, QString>> NormalMetaView::lines() const
+{
+    QVector<QPair<QString, QString>> result;
+    for (const Row &row : kRows) {
+        const QString text = m_texts.value(row.type);
+        if (!text.isEmpty())
+            result.append({tr(row.label), text});
+    }
+    return result;
+}
+
+void NormalMetaView::textChanged()
+{
+    QStringList spoken(m_name);
+    const auto all = lines();
+    for (const auto &line : all)
+        spoken << line.first + QLatin1Char(' ') + line.second;
+    setAccessibleName(spoken.join(QLatin1String(", ")));
+    // Grows with its texts and does not shrink under a running time.
+    const QFontMetrics nameMetrics(Look::font(kNameFont, QFont::DemiBold));
+    const QFontMetrics metrics(Look::font(kLineFont));
+    int widest = nameMetrics.horizontalAdvance(m_name);
+    const int label = labelWidth(all, metrics) + Look::px(kGap);
+    for (const auto &line : all)
+        widest = qMax(widest, label + FixedDigits::width(metrics, line.second));
+    m_widest = qMax(m_widest, qMin(widest, Look::px(kWidest)));
+    update();
+    emit sig_shapeChanged();
+}
+
+QSize NormalMetaView::sizeHint() const
+{
+    return {m_widest + 2 * Look::px(kSide),
+            2 * Look::px(kTop) + Look::px(kNameHeight) + lines().size() * Look::px(kLineHeight)};
+}
+
+void NormalMetaView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isCompact()) {
+        painter.fillRect(rect(), Look::color(Look::Panel));
+    } else {
+        painter.setPen(QPen(Look::color(Look::NoteLine), 1));
+        painter.setBrush(Look::color(Look::Note));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Look::px(cornerRadius()),
+                                Look::px(cornerRadius()));
+    }
+    QRect line(Look::px(kSide), Look::px(kTop), width() - 2 * Look::px(kSide), Look::px(kNameHeight));
+    painter.setFont(Look::font(kNameFont, QFont::DemiBold));
+    painter.setPen(Look::color(Look::Text));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(m_name, Qt::ElideMiddle, line.width()));
+    line.moveTop(line.bottom() + 1);
+    line.setHeight(Look::px(kLineHeight));
+    painter.setFont(Look::font(kLineFont));
+    const auto all = lines();
+    const int label = labelWidth(all, painter.fontMetrics()) + Look::px(kGap);
+    for (const auto &row : all) {
+        painter.setPen(Look::color(Look::Soft));
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, row.first);
+        painter.setPen(Look::color(Look::Text));
+        const QRect value = line.adjusted(label, 0, 0, 0);
+        FixedDigits::draw(painter, value, Qt::AlignLeft,
+                          painter.fontMetrics().elidedText(row.second, Qt::ElideRight, value.width()));
+        line.translate(0, line.height());
+    }
+}

@@ -1,5 +1,8 @@
 #include "BluRayDisc.h"
 
+#include "BluRayStructure.h"
+#include "EngineLog.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -8,6 +11,7 @@
 
 extern "C" {
 #include <libbluray/bluray.h>
+#include <libbluray/filesystem.h>
 #include <libbluray/log_control.h>
 }
 
@@ -55,6 +59,49 @@ void readVideo(const BLURAY_TITLE_INFO &info, BluRayTitle &title)
     }
 }
 
+bool readFile(BLURAY *disc, const std::string &path, BigEndianReader::Bytes &bytes)
+{
+    void *data = nullptr;
+    std::int64_t size = 0;
+    if (!bd_read_file(disc, path.c_str(), &data, &size) || !data)
+        return false;
+    const auto *from = static_cast<const std::uint8_t *>(data);
+    bytes.assign(from, from + std::max<std::int64_t>(0, size));
+    std::free(data);
+    return true;
+}
+
+// The library falls back on the copies by itself, so they count as well.
+struct Checked {
+    const char *folder;
+    bool (*isSound)(const BigEndianReader::Bytes &);
+};
+constexpr Checked checkedFolders[] = {{"BDMV/CLIPINF", BluRayStructure::isSoundClip},
+                                      {"BDMV/BACKUP/CLIPINF", BluRayStructure::isSoundClip},
+                                      {"BDMV/PLAYLIST", BluRayStructure::isSoundPlaylist},
+                                      {"BDMV/BACKUP/PLAYLIST", BluRayStructure::isSoundPlaylist}};
+
+bool isStructureSound(BLURAY *disc)
+{
+    for (const Checked &checked : checkedFolders) {
+        BD_DIR_H *entries = bd_open_dir(disc, checked.folder);
+        if (!entries)
+            continue;
+        bool sound = true;
+        BD_DIRENT entry = {};
+        while (sound && entries->read(entries, &entry) == 0) {
+            BigEndianReader::Bytes bytes;
+            if (entry.d_name[0] != '.'
+                && readFile(disc, std::string(checked.folder) + '/' + entry.d_name, bytes))
+                sound = checked.isSound(bytes);
+        }
+        entries->close(entries);
+        if (!sound)
+            return false;
+    }
+    return true;
+}
+
 int milliseconds(std::uint64_t ticks)
 {
     return int(std::min<std::uint64_t>(ticks / 90, std::numeric_limits<int>::max()));
@@ -92,15 +139,14 @@ std::unique_ptr<BluRayDisc> BluRayDisc::open(const std::string &path)
     disc->m_hasMenu = info->top_menu && info->top_menu->accessible;
     if (info->udf_volume_id)
         disc->m_volumeName = info->udf_volume_id;
-    void *index = nullptr;
-    std::int64_t size = 0;
-    if (bd_read_file(bluray, "BDMV/index.bdmv", &index, &size) && index) {
-        disc->m_isUltraHd =
-            size >= 8
-            && std::memcmp(static_cast<const char *>(index) + VersionOffset, UltraHdVersion, 4) == 0;
-        std::free(index);
-    }
-    disc->readTitles();
+    BigEndianReader::Bytes index;
+    disc->m_isUltraHd = readFile(bluray, "BDMV/index.bdmv", index) && index.size() >= 8
+                        && std::memcmp(&index[VersionOffset], UltraHdVersion, 4) == 0;
+    // Without titles nobody goes on to play it.
+    if (isStructureSound(bluray))
+        disc->readTitles();
+    else
+        engineLog("[Disc] the structure of this disc is damaged: %s", path.c_str());
     return disc;
 }
 

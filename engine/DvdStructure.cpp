@@ -1,13 +1,13 @@
 #include "DvdStructure.h"
 
+#include "BigEndianReader.h"
+
 #include <algorithm>
-#include <cstring>
 #include <set>
 
 namespace {
 
 constexpr std::size_t SectorSize = 2048;
-constexpr std::size_t SignatureSize = 12;
 constexpr const char *DiscSignature = "DVDVIDEO-VMG";
 constexpr const char *SetSignature = "DVDVIDEO-VTS";
 // Places of the tables' sector numbers.
@@ -22,38 +22,12 @@ constexpr std::size_t CellSize = 24;
 constexpr int MaxTitles = 99;
 constexpr int MaxChapters = 999;
 
-// Big-endian numbers of a file; 0 behind its end.
-class Reader {
-public:
-    explicit Reader(const DvdStructure::Bytes &bytes)
-        : m_bytes(bytes)
-    {
-    }
-    bool has(std::size_t offset, std::size_t count) const
-    {
-        return offset <= m_bytes.size() && count <= m_bytes.size() - offset;
-    }
-    std::uint32_t number(std::size_t offset, std::size_t size) const
-    {
-        std::uint32_t value = 0;
-        for (std::size_t i = 0; has(offset, size) && i < size; ++i)
-            value = (value << 8) | m_bytes[offset + i];
-        return value;
-    }
-    bool startsWith(const char *signature) const
-    {
-        return m_bytes.size() >= SignatureSize && std::memcmp(m_bytes.data(), signature, SignatureSize) == 0;
-    }
-    // Offset of a table whose sector number stands at a place; 0 when it is not inside the file.
-    std::size_t table(std::size_t pointer) const
-    {
-        const std::size_t offset = std::size_t(number(pointer, 4)) * SectorSize;
-        return offset != 0 && has(offset, TableHeader) ? offset : 0;
-    }
-
-private:
-    const DvdStructure::Bytes &m_bytes;
-};
+// Offset of a table whose sector number stands at a place; 0 when it is not inside the file.
+std::size_t tableAt(const BigEndianReader &reader, std::size_t pointer)
+{
+    const std::size_t offset = std::size_t(reader.number(pointer, 4)) * SectorSize;
+    return offset != 0 && reader.has(offset, TableHeader) ? offset : 0;
+}
 
 int fromBcd(std::uint32_t value)
 {
@@ -61,7 +35,7 @@ int fromBcd(std::uint32_t value)
 }
 
 // Hours, minutes, seconds and frames in decimal digits; the frame rate stands in the two high bits.
-int readTime(const Reader &reader, std::size_t offset)
+int readTime(const BigEndianReader &reader, std::size_t offset)
 {
     const int hours = fromBcd(reader.number(offset, 1));
     const int minutes = fromBcd(reader.number(offset + 1, 1));
@@ -71,7 +45,7 @@ int readTime(const Reader &reader, std::size_t offset)
     return ((hours * 60 + minutes) * 60 + seconds) * 1000 + fromBcd(frames & 0x3f) * 1000 / perSecond;
 }
 
-void readCells(const Reader &reader, std::size_t program, DvdTitle &title)
+void readCells(const BigEndianReader &reader, std::size_t program, DvdTitle &title)
 {
     const std::uint32_t count = reader.number(program + 3, 1);
     const std::uint32_t cells = reader.number(program + 0xE8, 2);
@@ -95,7 +69,7 @@ void readCells(const Reader &reader, std::size_t program, DvdTitle &title)
     }
 }
 
-void readVideo(const Reader &reader, DvdTitle &title)
+void readVideo(const BigEndianReader &reader, DvdTitle &title)
 {
     static constexpr int widths[] = {720, 704, 352, 352};
     const std::uint32_t format = reader.number(VideoAttributes, 2);
@@ -109,9 +83,9 @@ void readVideo(const Reader &reader, DvdTitle &title)
 
 std::vector<DvdStructure::TitleEntry> DvdStructure::titleEntries(const Bytes &discInfo)
 {
-    const Reader reader(discInfo);
+    const BigEndianReader reader(discInfo);
     std::vector<TitleEntry> entries;
-    const std::size_t table = reader.startsWith(DiscSignature) ? reader.table(TitleTablePointer) : 0;
+    const std::size_t table = reader.startsWith(DiscSignature) ? tableAt(reader, TitleTablePointer) : 0;
     if (table == 0)
         return entries;
     const int count = std::min(int(reader.number(table, 2)), MaxTitles);
@@ -131,11 +105,11 @@ std::vector<DvdStructure::TitleEntry> DvdStructure::titleEntries(const Bytes &di
 
 bool DvdStructure::readTitle(const Bytes &setInfo, const TitleEntry &entry, DvdTitle &title)
 {
-    const Reader reader(setInfo);
+    const BigEndianReader reader(setInfo);
     if (!reader.startsWith(SetSignature) || entry.numberInSet < 1)
         return false;
-    const std::size_t chapters = reader.table(ChapterTablePointer);
-    const std::size_t programs = reader.table(ProgramTablePointer);
+    const std::size_t chapters = tableAt(reader, ChapterTablePointer);
+    const std::size_t programs = tableAt(reader, ProgramTablePointer);
     if (chapters == 0 || programs == 0 || entry.numberInSet > int(reader.number(chapters, 2)))
         return false;
 

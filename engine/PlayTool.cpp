@@ -3,19 +3,18 @@
 #include "DiscReader.h"
 #include "DriveControl.h"
 #include "DriveTable.h"
-#include "LocalFile.h"
-#include "NativePath.h"
 #include "PlayToolTables.h"
 #include "SubtitleStyle.h"
+#include "ToolArguments.h"
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 
 namespace {
 
 using namespace libvp;
+using ToolArguments::textOf;
 
 #ifdef _WIN32
 constexpr char defaultVideoOutputs[] = "gpu,direct3d";
@@ -23,10 +22,6 @@ constexpr char defaultVideoOutputs[] = "gpu,direct3d";
 constexpr char defaultVideoOutputs[] = "gpu,x11";
 #endif
 constexpr char clientName[] = "Quorin Player";
-constexpr std::int64_t largestShader = 4 << 20;
-constexpr float largestVolume = 2.0f;
-constexpr float largestAmplification = 60.0f; // decibels over ten
-constexpr double outlineWidth = 3.0;
 
 std::string environment(const char *name)
 {
@@ -38,11 +33,6 @@ std::string environment(const char *name)
 bool needsSurface(const std::string &outputs)
 {
     return outputs != "null" && outputs != "image";
-}
-
-float finiteOr(float value, float fallback)
-{
-    return std::isfinite(value) ? value : fallback;
 }
 
 // A user name or password inside an address.
@@ -60,11 +50,6 @@ std::string escaped(const std::string &text)
         }
     }
     return result;
-}
-
-std::string textOf(const char *text)
-{
-    return text ? text : "";
 }
 
 } // namespace
@@ -310,387 +295,6 @@ void PlayTool::setVideoOutputs(const std::string &outputs)
     // or for what it alone can do, gets it without graphics hardware.
     set("gpu-sw", chosen || shader);
     set("vo", outputs);
-}
-
-// Sound
-
-void PlayTool::setSpeakerLayout(int layout)
-{
-    bool compressed = false;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        compressed = m_passThrough;
-        if (compressed)
-            m_codecMask = static_cast<unsigned>(layout);
-        else
-            m_speakerLayout = layout;
-    }
-    if (compressed)
-        applyPassThrough();
-    else
-        set("audio-channels", AudioOutputs::channelLayouts(layout));
-}
-
-bool PlayTool::switchAudioOutput(bool passThrough, const char *device)
-{
-    if (!device || !*device || m_outputs.nativeName(device).empty())
-        return false;
-    setAudioDevice(device);
-    return setPassThrough(passThrough);
-}
-
-bool PlayTool::setAudioDevice(const std::string &name)
-{
-    const std::string nativeName = m_outputs.nativeName(name);
-    if (nativeName.empty())
-        return false;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_audioDevice = name;
-    }
-    set("audio-device", nativeName);
-    return true;
-}
-
-bool PlayTool::setPassThrough(bool on)
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_passThrough = on;
-    }
-    applyPassThrough();
-    return true;
-}
-
-void PlayTool::applyPassThrough()
-{
-    std::string formats;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_passThrough)
-            formats = AudioOutputs::passThroughFormats(m_codecMask);
-    }
-    set("audio-spdif", formats);
-}
-
-int PlayTool::passThrough()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_passThrough ? 1 : 0;
-}
-
-const char *PlayTool::currentAudioDevice()
-{
-    thread_local std::string name;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        name = m_audioDevice;
-    }
-    if (name.empty()) {
-        const VDAudioDeviceList &list = m_outputs.devices();
-        name = list.count > 0 ? list.devices[0].name : "";
-    }
-    return name.c_str();
-}
-
-bool PlayTool::audioDevices(const VDAudioDeviceList **list)
-{
-    if (!list)
-        return false;
-    *list = &m_outputs.devices();
-    return (*list)->count > 0;
-}
-
-void PlayTool::setVolume(float volume)
-{
-    const float clamped = std::clamp(finiteOr(volume, 1.0f), 0.0f, largestVolume);
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_volume = clamped;
-    }
-    applyVolume();
-    m_notifier.post(m_line, [callback = m_callback, clamped] {
-        if (callback)
-            callback->OnVolumeChanged(clamped);
-    });
-}
-
-void PlayTool::setAudioAmplification(float amount)
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_amplification = std::clamp(finiteOr(amount, 0.0f), 0.0f, largestAmplification);
-    }
-    applyVolume();
-}
-
-void PlayTool::applyVolume()
-{
-    double percent = 0;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        // libmpv's scale is cubic: a gain is the third power of the volume.
-        const double gain = std::pow(10.0, static_cast<double>(m_amplification) / 10.0 / 20.0);
-        percent = static_cast<double>(m_volume) * 100.0 * std::cbrt(gain);
-    }
-    set("volume", percent);
-}
-
-void PlayTool::setMute(bool mute)
-{
-    set("mute", mute);
-    m_notifier.post(m_line, [callback = m_callback, mute] {
-        if (callback)
-            callback->OnMuteChanged(mute);
-    });
-}
-
-void PlayTool::setBootValue(int) {}
-
-void PlayTool::setAudioDelay(float seconds)
-{
-    set("audio-delay", static_cast<double>(finiteOr(seconds, 0)));
-}
-
-void PlayTool::setPreferredAudioLanguage(const char *language)
-{
-    set("alang", textOf(language));
-}
-
-// Subtitles
-
-void PlayTool::setPreferredSubtitleLanguage(const char *language)
-{
-    const std::string wanted = textOf(language);
-    const bool none = wanted == "close";
-    prefer([none](PlayPreferences &preferences) { preferences.subtitlesAllowed = !none; });
-    set("slang", none ? "" : wanted);
-}
-
-void PlayTool::setSubtitleOffset(float seconds)
-{
-    set("sub-delay", static_cast<double>(finiteOr(seconds, 0)));
-}
-
-void PlayTool::setSubtitleVisible(bool visible)
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_subtitleVisible = visible;
-    }
-    set("sub-visibility", visible);
-}
-
-bool PlayTool::isSubtitleVisible()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_subtitleVisible;
-}
-
-void PlayTool::setSubtitleFont(const char *family)
-{
-    set("sub-font", SubtitleStyle::font(textOf(family)));
-}
-
-void PlayTool::setSubtitleSize(int size)
-{
-    set("sub-font-size", SubtitleStyle::fontSize(size));
-}
-
-void PlayTool::setSubtitlePosition(int position, int)
-{
-    set("sub-align-y", position == 2 ? "top" : "bottom");
-}
-
-void PlayTool::setSubtitleColor(const char *color)
-{
-    const std::string text = SubtitleStyle::color(textOf(color));
-    if (!text.empty())
-        set("sub-color", text);
-}
-
-void PlayTool::setSubtitleBold(bool bold)
-{
-    set("sub-bold", bold);
-}
-
-void PlayTool::setSubtitleItalic(bool italic)
-{
-    set("sub-italic", italic);
-}
-
-void PlayTool::setSubtitleOutline(bool outline)
-{
-    set("sub-border-size", outline ? outlineWidth : 0.0);
-}
-
-void PlayTool::setSubtitleOverride(bool override)
-{
-    set("sub-ass-override", override ? "force" : "yes");
-}
-
-// Picture
-
-void PlayTool::setDeinterlaceMode(int mode)
-{
-    prefer([mode](PlayPreferences &preferences) { preferences.deinterlace = mode; });
-}
-
-void PlayTool::setZoomAmount(float zoom)
-{
-    prefer(
-        [zoom](PlayPreferences &preferences) { preferences.zoom = static_cast<double>(finiteOr(zoom, 1)); });
-}
-
-void PlayTool::setPixelRatio(float ratio)
-{
-    const double wanted = ratio > 0 ? static_cast<double>(finiteOr(ratio, 1)) : 1.0;
-    prefer([wanted](PlayPreferences &preferences) { preferences.pixelRatio = wanted; });
-}
-
-void PlayTool::setVerticalShift(float shift)
-{
-    prefer([shift](PlayPreferences &preferences) {
-        preferences.verticalShift = static_cast<double>(finiteOr(shift, 0));
-    });
-}
-
-void PlayTool::setViewMode(int mode)
-{
-    if (mode < VD_View_Default || mode > VD_View_2_35)
-        return;
-    prefer([mode](PlayPreferences &preferences) { preferences.viewMode = mode; });
-}
-
-int PlayTool::viewMode()
-{
-    return m_settings.preferences().viewMode;
-}
-
-void PlayTool::setBrightness(float value)
-{
-    set("brightness", PictureOptions::equalizer(value));
-}
-
-void PlayTool::setSaturation(float value)
-{
-    set("saturation", PictureOptions::equalizer(value));
-}
-
-void PlayTool::setContrast(float value)
-{
-    set("contrast", PictureOptions::equalizer(value));
-}
-
-void PlayTool::setRotation(int quarterTurns)
-{
-    prefer([quarterTurns](PlayPreferences &preferences) { preferences.rotation = quarterTurns & 3; });
-}
-
-int PlayTool::flipState()
-{
-    return m_settings.preferences().flip;
-}
-
-void PlayTool::setFlipState(int state)
-{
-    prefer([state](PlayPreferences &preferences) { preferences.flip = state & 3; });
-}
-
-void PlayTool::resetFlip()
-{
-    setFlipState(0);
-}
-
-void PlayTool::enableHardwareDecoding(bool on)
-{
-    prefer([on](PlayPreferences &preferences) { preferences.hardwareDecoding = on; });
-}
-
-void PlayTool::enableToneMap(bool on)
-{
-    prefer([on](PlayPreferences &preferences) { preferences.toneMap = on; });
-}
-
-void PlayTool::setHDRMode(int mode)
-{
-    prefer([mode](PlayPreferences &preferences) { preferences.hdrMode = mode; });
-}
-
-void PlayTool::setSDRMode(int mode)
-{
-    prefer([mode](PlayPreferences &preferences) { preferences.toneCurve = mode; });
-}
-
-void PlayTool::set3DInputLayout(int layout)
-{
-    prefer([layout](PlayPreferences &preferences) { preferences.stereoInput = layout; });
-}
-
-void PlayTool::set3DEngine(bool on)
-{
-    prefer([on](PlayPreferences &preferences) { preferences.stereoEngine = on; });
-}
-
-void PlayTool::set3DParallax(int direction)
-{
-    prefer([direction](PlayPreferences &preferences) { preferences.rightViewFirst = direction == 1; });
-}
-
-bool PlayTool::threeDCapabilities(VD3DCapabilities *capabilities)
-{
-    if (!capabilities)
-        return false;
-    *capabilities = {};
-    capabilities->words[0] = PictureOptions::stereoModes();
-    return true;
-}
-
-void PlayTool::showInformationOverlay(bool show)
-{
-    prefer([show](PlayPreferences &preferences) { preferences.informationOverlay = show; });
-}
-
-bool PlayTool::takeScreenshot(int mode, int width, int height)
-{
-    const auto session = openSession();
-    return session && session->takeScreenshot(mode == 1, width, height);
-}
-
-double PlayTool::displayAspect()
-{
-    const auto session = openSession();
-    return session ? session->facts().aspect : 0.0;
-}
-
-bool PlayTool::setCustomShader(const char *path)
-{
-    const std::string wanted = textOf(path);
-    std::string absolute;
-    if (!wanted.empty()) {
-        LocalFile file;
-        if (!file.open(wanted) || file.size() == 0 || file.size() > largestShader) {
-            engineLog("[Engine] the custom shader cannot be read: %s", wanted.c_str());
-            return false;
-        }
-        std::error_code error;
-        absolute = std::filesystem::absolute(nativePath(wanted), error).u8string();
-    }
-    prefer([&absolute](PlayPreferences &preferences) { preferences.customShader = absolute; });
-    std::string outputs;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        outputs = m_videoOutputs;
-    }
-    setVideoOutputs(outputs);
-    return true;
-}
-
-const char *PlayTool::customShader()
-{
-    thread_local std::string path;
-    path = m_settings.preferences().customShader;
-    return path.c_str();
 }
 
 // Discs, network and what has no counterpart

@@ -5,62 +5,62 @@
     <name>AnimateMenu</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Open Media...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un média...</translation>
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle vidéo...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage des couleurs...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger des sous-titres...</translation>
     </message>
     <message>
         <source>Subtitle Setting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres des sous-titres...</translation>
     </message>
     <message>
         <source>Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres...</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
         <source>Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaires</translation>
     </message>
     <message>
         <source>Forum</source>
-        <translation type="unfinished"></translation>
+        <translation>Forum</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
 </context>
 <context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre appareil ne prend pas en charge le décodage matériel des vidéos H.265 4K. Le décodage logiciel a été activé automatiquement ; la lecture peut manquer de fluidité.</translation>
     </message>
     <message>
         <source>Your computer hardware configuration does not support hardware decoding for 4K UHD Blu-rays.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration matérielle de votre ordinateur ne prend pas en charge le décodage matériel des Blu-ray UHD 4K.</translation>
     </message>
     <message>
         <source>Invalid custom shader, please check and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shader personnalisé non valide. Vérifiez-le et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -75,490 +75,654 @@
     <name>MenuCase</name>
     <message>
         <source>Quorin Player 6 can play back the BDAV discs in Simple mode only, but you can switch titles from the Playlist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorin Player 6 ne peut lire les disques BDAV qu’en mode simple, mais vous pouvez changer de titre depuis la liste de lecture.</translation>
     </message>
 </context>
 <context>
     <name>ModeSelectView</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>PC Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode PC</translation>
     </message>
     <message>
         <source>In a window, with mouse and keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans une fenêtre, avec souris et clavier</translation>
     </message>
     <message>
         <source>TV Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode TV</translation>
     </message>
     <message>
         <source>Full screen, with a remote control</source>
-        <translation type="unfinished"></translation>
+        <translation>En plein écran, avec une télécommande</translation>
     </message>
     <message>
         <source>Remember my choice and don&apos;t ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoriser mon choix et ne plus demander</translation>
     </message>
     <message>
         <source>How do you want to watch?</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment souhaitez-vous regarder ?</translation>
     </message>
     <message>
         <source>You can change this later in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous pourrez modifier ce choix plus tard dans les paramètres.</translation>
     </message>
 </context>
 <context>
     <name>NormalAboutDLg</name>
     <message>
         <source>User interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Interface utilisateur</translation>
     </message>
     <message>
         <source>Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Formats and codecs</source>
-        <translation type="unfinished"></translation>
+        <translation>Formats et codecs</translation>
     </message>
     <message>
         <source>DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>Blu-ray</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu-ray</translation>
     </message>
     <message>
         <source>Media library</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiathèque</translation>
     </message>
     <message>
         <source>Music tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes musicales</translation>
     </message>
     <message>
         <source>Foundations</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondations</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>built on %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Free software under the GNU General Public License, version 3</source>
-        <translation type="unfinished"></translation>
+        <translation>compilé le %1</translation>
     </message>
     <message>
         <source>Libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèques</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later</source>
+        <translation>Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure</translation>
     </message>
 </context>
 <context>
     <name>NormalColorAdjustDlg</name>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Soft</source>
-        <translation type="unfinished"></translation>
+        <translation>Doux</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Lumineux</translation>
     </message>
     <message>
         <source>Color Adjust</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage des couleurs</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
 </context>
 <context>
     <name>NormalDialogFrame</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>NormalLastPositionLabel</name>
     <message>
         <source>Last playback at</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière lecture à</translation>
     </message>
 </context>
 <context>
     <name>NormalLoadingDlg</name>
     <message>
         <source>Loading ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalMainWindow</name>
+    <message>
+        <source>Failure initializing playback device, please update your video card and sound card drivers. Contact us if that does not fix the problem.</source>
+        <translation>Échec de l’initialisation du périphérique de lecture. Mettez à jour les pilotes de vos cartes graphique et son. Si le problème persiste, contactez-nous.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Media Files (%1)</source>
+        <translation>Fichiers multimédias (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Open Media...</source>
+        <translation>Ouvrir un média...</translation>
     </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
     <message>
         <source>Don&apos;t show again</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus afficher</translation>
     </message>
 </context>
 <context>
     <name>NormalMessageBoxFactory</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>NormalMetaView</name>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titres</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>Chapitre</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+</context>
+<context>
+    <name>NormalOperateBar</name>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaySpeedBar</name>
+    <message>
+        <source>Normal Speed</source>
+        <translation>Vitesse normale</translation>
     </message>
 </context>
 <context>
     <name>NormalStartView</name>
     <message>
         <source>Drop a film, a folder or a disc image here to play it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici un film, un dossier ou une image de disque pour le lire.</translation>
     </message>
     <message>
         <source>Open Media...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un média...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalTipLabel</name>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Slow motion %1x</source>
+        <translation>Ralenti %1x</translation>
+    </message>
+    <message>
+        <source>Fast forward</source>
+        <translation>Avance rapide</translation>
+    </message>
+    <message>
+        <source>Fast forward %1x</source>
+        <translation>Avance rapide %1x</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Retour rapide</translation>
+    </message>
+    <message>
+        <source>Rewind %1x</source>
+        <translation>Retour rapide %1x</translation>
     </message>
 </context>
 <context>
     <name>NormalTitleBar</name>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>NormalTvshowAutoPlayLabel</name>
     <message>
         <source>Play Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire maintenant</translation>
     </message>
     <message>
         <source>Not this time</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas cette fois</translation>
     </message>
     <message>
         <source>Up Next: </source>
-        <translation type="unfinished"></translation>
+        <translation>À suivre : </translation>
     </message>
 </context>
 <context>
     <name>NormalVideoControlDlg</name>
     <message>
         <source>Video Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle vidéo</translation>
     </message>
     <message>
         <source>Zoom Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de zoom</translation>
     </message>
     <message>
         <source>Vertical Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage vertical</translation>
     </message>
     <message>
         <source>Pixel Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de pixels</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
 </context>
 <context>
     <name>NormalWaitingDlg</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>PlayFailure</name>
     <message>
         <source>Quorin does not support your UHD drive, please check the supported drives here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorin ne prend pas en charge votre lecteur UHD. Consultez ici les lecteurs pris en charge.</translation>
     </message>
     <message>
         <source>More Info...</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus d’informations...</translation>
     </message>
     <message>
         <source>Oops! This disc is not supported yet. Please try again at a later time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oups ! Ce disque n’est pas encore pris en charge. Réessayez plus tard.</translation>
     </message>
     <message>
         <source>Failed to play back the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la lecture du disque.</translation>
     </message>
     <message>
         <source>A live Internet is required to play back the disc, please check your network and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une connexion Internet est nécessaire pour lire ce disque. Vérifiez votre réseau et réessayez.</translation>
     </message>
     <message>
         <source>An unknown error happened, please update to the newest version at</source>
-        <translation type="unfinished"></translation>
+        <translation>Une erreur inconnue s’est produite. Mettez à jour vers la dernière version sur</translation>
     </message>
     <message>
         <source>Playback failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la lecture.</translation>
     </message>
     <message>
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire cette source. Elle est peut-être endommagée, protégée ou d’un format inconnu.</translation>
     </message>
 </context>
 <context>
     <name>QApplication</name>
     <message>
         <source>Open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer des commentaires</translation>
     </message>
     <message>
         <source>Eject the selected disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Éjecter le disque sélectionné</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Fullscreen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>Always on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours au premier plan</translation>
     </message>
     <message>
         <source>Mute on/off</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer/désactiver le son</translation>
     </message>
     <message>
         <source>Previous Chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapitre précédent</translation>
     </message>
     <message>
         <source>Next Chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapitre suivant</translation>
     </message>
     <message>
         <source>Play/pause movie playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture/pause</translation>
     </message>
     <message>
         <source>Stop Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message>
         <source>Increase audio volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Augmenter le volume</translation>
     </message>
     <message>
         <source>Decrease audio volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Baisser le volume</translation>
     </message>
     <message>
         <source>Fast Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance rapide</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour rapide</translation>
     </message>
     <message>
         <source>Switch Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de piste audio</translation>
     </message>
     <message>
         <source>Switch Subtitle</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de sous-titres</translation>
     </message>
     <message>
         <source>Filp vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Retourner verticalement</translation>
     </message>
     <message>
         <source>Filp horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Retourner horizontalement</translation>
     </message>
     <message>
         <source>File Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations sur le fichier</translation>
     </message>
     <message>
         <source>Show Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les informations</translation>
     </message>
     <message>
         <source>Open Smart View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la vue intelligente</translation>
     </message>
     <message>
         <source>Displays the playback menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le menu de lecture</translation>
     </message>
     <message>
         <source>Pop-up menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu contextuel</translation>
     </message>
     <message>
         <source>Top menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu principal</translation>
     </message>
     <message>
         <source>Navigate up in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter dans les menus</translation>
     </message>
     <message>
         <source>Navigate down in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre dans les menus</translation>
     </message>
     <message>
         <source>Navigate left in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à gauche dans les menus</translation>
     </message>
     <message>
         <source>Navigate right in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à droite dans les menus</translation>
     </message>
     <message>
         <source>Accepts the selected menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider le menu sélectionné</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une capture</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivoter de</translation>
     </message>
     <message>
         <source>Sec</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>CW</source>
-        <translation type="unfinished"></translation>
+        <translation>vers la droite</translation>
     </message>
     <message>
         <source>CCW</source>
-        <translation type="unfinished"></translation>
+        <translation>vers la gauche</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer</translation>
     </message>
     <message>
         <source>Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>File error: </source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de fichier : </translation>
     </message>
 </context>
 <context>
     <name>QPlayer</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotWriter</name>
     <message>
         <source>There is no picture to save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune image à enregistrer.</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: the folder &quot;%1&quot; does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n’a pas pu être enregistrée : le dossier « %1 » n’existe pas.</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: the folder &quot;%1&quot; is not writable.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n’a pas pu être enregistrée : le dossier « %1 » n’est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: there is no free space in the folder &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n’a pas pu être enregistrée : il n’y a plus d’espace libre dans le dossier « %1 ».</translation>
     </message>
     <message>
         <source>The snapshot could not be saved in the folder &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n’a pas pu être enregistrée dans le dossier « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDMenu</name>
+    <message>
+        <source>Auto Detect</source>
+        <translation>Détection automatique</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Côte à côte</translation>
+    </message>
+    <message>
+        <source>Top / Bottom</source>
+        <translation>Haut / bas</translation>
+    </message>
+    <message>
+        <source>Play 3D Media in 3D</source>
+        <translation>Lire les médias 3D en 3D</translation>
+    </message>
+    <message>
+        <source>Convert 2D Media to 3D</source>
+        <translation>Convertir les médias 2D en 3D</translation>
+    </message>
+    <message>
+        <source>3D Source Format</source>
+        <translation>Format de la source 3D</translation>
+    </message>
+    <message>
+        <source>More 3D Settings</source>
+        <translation>Plus de paramètres 3D</translation>
+    </message>
+    <message>
+        <source>Oops! 3D playback support is only available on Windows 8/10 for now.</source>
+        <translation>Oups ! La lecture 3D n’est disponible que sous Windows 8/10 pour le moment.</translation>
+    </message>
+</context>
+<context>
+    <name>TvPlayingWidget</name>
+    <message>
+        <source>Playback Failed!</source>
+        <translation>Échec de la lecture !</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failure initializing playback device, please update your video card and sound card drivers. Contact us if that does not fix the problem.</source>
+        <translation>Échec de l’initialisation du périphérique de lecture. Mettez à jour les pilotes de vos cartes graphique et son. Si le problème persiste, contactez-nous.</translation>
+    </message>
+    <message>
+        <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
+        <translation>Impossible de lire cette source. Elle est peut-être endommagée, protégée ou d’un format inconnu.</translation>
+    </message>
+</context>
+<context>
+    <name>TvStartWidget</name>
+    <message>
+        <source>Ready to play</source>
+        <translation>Prêt à lire</translation>
+    </message>
+    <message>
+        <source>Open a film with the player to watch it here.</source>
+        <translation>Ouvrez un film avec le lecteur pour le regarder ici.</translation>
     </message>
 </context>
 </TS>

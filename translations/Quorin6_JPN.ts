@@ -5,62 +5,62 @@
     <name>AnimateMenu</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニュー</translation>
     </message>
     <message>
         <source>Open Media...</source>
-        <translation type="unfinished"></translation>
+        <translation>メディアを開く...</translation>
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished"></translation>
+        <translation>映像コントロール...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished"></translation>
+        <translation>色調整...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕を読み込む...</translation>
     </message>
     <message>
         <source>Subtitle Setting...</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕設定...</translation>
     </message>
     <message>
         <source>Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>設定...</translation>
     </message>
     <message>
         <source>Check for Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認</translation>
     </message>
     <message>
         <source>Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>フィードバック</translation>
     </message>
     <message>
         <source>Forum</source>
-        <translation type="unfinished"></translation>
+        <translation>フォーラム</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
 </context>
 <context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いのデバイスは H.265 4K 動画のハードウェアデコードに対応していないため、自動的にソフトウェアデコードに切り替えました。再生がなめらかでない場合があります。</translation>
     </message>
     <message>
         <source>Your computer hardware configuration does not support hardware decoding for 4K UHD Blu-rays.</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いのコンピューターは 4K UHD ブルーレイのハードウェアデコードに対応していません。</translation>
     </message>
     <message>
         <source>Invalid custom shader, please check and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムシェーダーが無効です。確認してもう一度お試しください。</translation>
     </message>
 </context>
 <context>
@@ -75,490 +75,654 @@
     <name>MenuCase</name>
     <message>
         <source>Quorin Player 6 can play back the BDAV discs in Simple mode only, but you can switch titles from the Playlist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorin Player 6 は BDAV ディスクをシンプルモードでのみ再生できますが、プレイリストからタイトルを切り替えられます。</translation>
     </message>
 </context>
 <context>
     <name>ModeSelectView</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>PC Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>PC モード</translation>
     </message>
     <message>
         <source>In a window, with mouse and keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウ表示、マウスとキーボードで操作</translation>
     </message>
     <message>
         <source>TV Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>TV モード</translation>
     </message>
     <message>
         <source>Full screen, with a remote control</source>
-        <translation type="unfinished"></translation>
+        <translation>全画面、リモコンで操作</translation>
     </message>
     <message>
         <source>Remember my choice and don&apos;t ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>選択を記憶し、今後は確認しない</translation>
     </message>
     <message>
         <source>How do you want to watch?</source>
-        <translation type="unfinished"></translation>
+        <translation>どのように視聴しますか？</translation>
     </message>
     <message>
         <source>You can change this later in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>この選択は後で設定から変更できます。</translation>
     </message>
 </context>
 <context>
     <name>NormalAboutDLg</name>
     <message>
         <source>User interface</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーインターフェース</translation>
     </message>
     <message>
         <source>Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>再生</translation>
     </message>
     <message>
         <source>Formats and codecs</source>
-        <translation type="unfinished"></translation>
+        <translation>形式とコーデック</translation>
     </message>
     <message>
         <source>DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>Blu-ray</source>
-        <translation type="unfinished"></translation>
+        <translation>ブルーレイ</translation>
     </message>
     <message>
         <source>Media library</source>
-        <translation type="unfinished"></translation>
+        <translation>メディアライブラリ</translation>
     </message>
     <message>
         <source>Music tags</source>
-        <translation type="unfinished"></translation>
+        <translation>音楽タグ</translation>
     </message>
     <message>
         <source>Foundations</source>
-        <translation type="unfinished"></translation>
+        <translation>基盤</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン %1</translation>
     </message>
     <message>
         <source>built on %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Free software under the GNU General Public License, version 3</source>
-        <translation type="unfinished"></translation>
+        <translation>ビルド日 %1</translation>
     </message>
     <message>
         <source>Libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブラリ</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later</source>
+        <translation>GNU 一般公衆ライセンス バージョン 3 以降に基づくフリーソフトウェア</translation>
     </message>
 </context>
 <context>
     <name>NormalColorAdjustDlg</name>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Soft</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフト</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>明るい</translation>
     </message>
     <message>
         <source>Color Adjust</source>
-        <translation type="unfinished"></translation>
+        <translation>色調整</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>明るさ</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>彩度</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>コントラスト</translation>
     </message>
 </context>
 <context>
     <name>NormalDialogFrame</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>NormalLastPositionLabel</name>
     <message>
         <source>Last playback at</source>
-        <translation type="unfinished"></translation>
+        <translation>前回の再生位置</translation>
     </message>
 </context>
 <context>
     <name>NormalLoadingDlg</name>
     <message>
         <source>Loading ...</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalMainWindow</name>
+    <message>
+        <source>Failure initializing playback device, please update your video card and sound card drivers. Contact us if that does not fix the problem.</source>
+        <translation>再生デバイスの初期化に失敗しました。ビデオカードとサウンドカードのドライバーを更新してください。解決しない場合はお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Media Files (%1)</source>
+        <translation>メディアファイル (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Open Media...</source>
+        <translation>メディアを開く...</translation>
     </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
     <message>
         <source>Don&apos;t show again</source>
-        <translation type="unfinished"></translation>
+        <translation>今後は表示しない</translation>
     </message>
 </context>
 <context>
     <name>NormalMessageBoxFactory</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>NormalMetaView</name>
+    <message>
+        <source>Video</source>
+        <translation>映像</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>チャプター</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+</context>
+<context>
+    <name>NormalOperateBar</name>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaySpeedBar</name>
+    <message>
+        <source>Normal Speed</source>
+        <translation>標準速度</translation>
     </message>
 </context>
 <context>
     <name>NormalStartView</name>
     <message>
         <source>Drop a film, a folder or a disc image here to play it.</source>
-        <translation type="unfinished"></translation>
+        <translation>映画、フォルダー、ディスクイメージをここにドロップすると再生します。</translation>
     </message>
     <message>
         <source>Open Media...</source>
-        <translation type="unfinished"></translation>
+        <translation>メディアを開く...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalTipLabel</name>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Slow motion %1x</source>
+        <translation>スロー再生 %1 倍</translation>
+    </message>
+    <message>
+        <source>Fast forward</source>
+        <translation>早送り</translation>
+    </message>
+    <message>
+        <source>Fast forward %1x</source>
+        <translation>早送り %1 倍</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>巻き戻し</translation>
+    </message>
+    <message>
+        <source>Rewind %1x</source>
+        <translation>巻き戻し %1 倍</translation>
     </message>
 </context>
 <context>
     <name>NormalTitleBar</name>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>最大化</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>NormalTvshowAutoPlayLabel</name>
     <message>
         <source>Play Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ再生</translation>
     </message>
     <message>
         <source>Not this time</source>
-        <translation type="unfinished"></translation>
+        <translation>今回はしない</translation>
     </message>
     <message>
         <source>Up Next: </source>
-        <translation type="unfinished"></translation>
+        <translation>次の再生: </translation>
     </message>
 </context>
 <context>
     <name>NormalVideoControlDlg</name>
     <message>
         <source>Video Control</source>
-        <translation type="unfinished"></translation>
+        <translation>映像コントロール</translation>
     </message>
     <message>
         <source>Zoom Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>ズーム量</translation>
     </message>
     <message>
         <source>Vertical Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直シフト</translation>
     </message>
     <message>
         <source>Pixel Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル比</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
 </context>
 <context>
     <name>NormalWaitingDlg</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>PlayFailure</name>
     <message>
         <source>Quorin does not support your UHD drive, please check the supported drives here.</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いの UHD ドライブには対応していません。対応ドライブはこちらをご確認ください。</translation>
     </message>
     <message>
         <source>More Info...</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細情報...</translation>
     </message>
     <message>
         <source>Oops! This disc is not supported yet. Please try again at a later time.</source>
-        <translation type="unfinished"></translation>
+        <translation>申し訳ありません。このディスクにはまだ対応していません。後でもう一度お試しください。</translation>
     </message>
     <message>
         <source>Failed to play back the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクを再生できませんでした。</translation>
     </message>
     <message>
         <source>A live Internet is required to play back the disc, please check your network and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このディスクの再生にはインターネット接続が必要です。ネットワークを確認してもう一度お試しください。</translation>
     </message>
     <message>
         <source>An unknown error happened, please update to the newest version at</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なエラーが発生しました。最新バージョンに更新してください：</translation>
     </message>
     <message>
         <source>Playback failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>再生に失敗しました。</translation>
     </message>
     <message>
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
-        <translation type="unfinished"></translation>
+        <translation>このソースは再生できません。破損しているか、保護されているか、未知の形式である可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>QApplication</name>
     <message>
         <source>Open file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開く</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>フィードバックを送信</translation>
     </message>
     <message>
         <source>Eject the selected disc</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したディスクを取り出す</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Fullscreen</source>
-        <translation type="unfinished"></translation>
+        <translation>全画面表示</translation>
     </message>
     <message>
         <source>Always on top</source>
-        <translation type="unfinished"></translation>
+        <translation>常に手前に表示</translation>
     </message>
     <message>
         <source>Mute on/off</source>
-        <translation type="unfinished"></translation>
+        <translation>ミュート オン/オフ</translation>
     </message>
     <message>
         <source>Previous Chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>前のチャプター</translation>
     </message>
     <message>
         <source>Next Chapter</source>
-        <translation type="unfinished"></translation>
+        <translation>次のチャプター</translation>
     </message>
     <message>
         <source>Play/pause movie playback</source>
-        <translation type="unfinished"></translation>
+        <translation>再生/一時停止</translation>
     </message>
     <message>
         <source>Stop Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>再生を停止</translation>
     </message>
     <message>
         <source>Increase audio volume</source>
-        <translation type="unfinished"></translation>
+        <translation>音量を上げる</translation>
     </message>
     <message>
         <source>Decrease audio volume</source>
-        <translation type="unfinished"></translation>
+        <translation>音量を下げる</translation>
     </message>
     <message>
         <source>Fast Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>早送り</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>巻き戻し</translation>
     </message>
     <message>
         <source>Switch Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>音声を切り替え</translation>
     </message>
     <message>
         <source>Switch Subtitle</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕を切り替え</translation>
     </message>
     <message>
         <source>Filp vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>上下反転</translation>
     </message>
     <message>
         <source>Filp horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>左右反転</translation>
     </message>
     <message>
         <source>File Information</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル情報</translation>
     </message>
     <message>
         <source>Show Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を表示</translation>
     </message>
     <message>
         <source>Open Smart View</source>
-        <translation type="unfinished"></translation>
+        <translation>スマートビューを開く</translation>
     </message>
     <message>
         <source>Displays the playback menu</source>
-        <translation type="unfinished"></translation>
+        <translation>再生メニューを表示</translation>
     </message>
     <message>
         <source>Pop-up menu</source>
-        <translation type="unfinished"></translation>
+        <translation>ポップアップメニュー</translation>
     </message>
     <message>
         <source>Top menu</source>
-        <translation type="unfinished"></translation>
+        <translation>トップメニュー</translation>
     </message>
     <message>
         <source>Navigate up in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューを上へ移動</translation>
     </message>
     <message>
         <source>Navigate down in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューを下へ移動</translation>
     </message>
     <message>
         <source>Navigate left in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューを左へ移動</translation>
     </message>
     <message>
         <source>Navigate right in menus</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューを右へ移動</translation>
     </message>
     <message>
         <source>Accepts the selected menu</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したメニューを決定</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを撮る</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>次のフレーム</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>前のフレーム</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>回転</translation>
     </message>
     <message>
         <source>Sec</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>CW</source>
-        <translation type="unfinished"></translation>
+        <translation>時計回り</translation>
     </message>
     <message>
         <source>CCW</source>
-        <translation type="unfinished"></translation>
+        <translation>反時計回り</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>前方へ</translation>
     </message>
     <message>
         <source>Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>後方へ</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>File error: </source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルエラー: </translation>
     </message>
 </context>
 <context>
     <name>QPlayer</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
 </context>
 <context>
     <name>ScreenshotWriter</name>
     <message>
         <source>There is no picture to save.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存する画像がありません。</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: the folder &quot;%1&quot; does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを保存できませんでした。フォルダー「%1」が存在しません。</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: the folder &quot;%1&quot; is not writable.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを保存できませんでした。フォルダー「%1」に書き込めません。</translation>
     </message>
     <message>
         <source>The snapshot could not be saved: there is no free space in the folder &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを保存できませんでした。フォルダー「%1」に空き容量がありません。</translation>
     </message>
     <message>
         <source>The snapshot could not be saved in the folder &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットをフォルダー「%1」に保存できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDMenu</name>
+    <message>
+        <source>Auto Detect</source>
+        <translation>自動検出</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>サイドバイサイド</translation>
+    </message>
+    <message>
+        <source>Top / Bottom</source>
+        <translation>トップ / ボトム</translation>
+    </message>
+    <message>
+        <source>Play 3D Media in 3D</source>
+        <translation>3D メディアを 3D で再生</translation>
+    </message>
+    <message>
+        <source>Convert 2D Media to 3D</source>
+        <translation>2D メディアを 3D に変換</translation>
+    </message>
+    <message>
+        <source>3D Source Format</source>
+        <translation>3D ソース形式</translation>
+    </message>
+    <message>
+        <source>More 3D Settings</source>
+        <translation>その他の 3D 設定</translation>
+    </message>
+    <message>
+        <source>Oops! 3D playback support is only available on Windows 8/10 for now.</source>
+        <translation>申し訳ありません。3D 再生は現在 Windows 8/10 でのみ対応しています。</translation>
+    </message>
+</context>
+<context>
+    <name>TvPlayingWidget</name>
+    <message>
+        <source>Playback Failed!</source>
+        <translation>再生に失敗しました！</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failure initializing playback device, please update your video card and sound card drivers. Contact us if that does not fix the problem.</source>
+        <translation>再生デバイスの初期化に失敗しました。ビデオカードとサウンドカードのドライバーを更新してください。解決しない場合はお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
+        <translation>このソースは再生できません。破損しているか、保護されているか、未知の形式である可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>TvStartWidget</name>
+    <message>
+        <source>Ready to play</source>
+        <translation>再生準備完了</translation>
+    </message>
+    <message>
+        <source>Open a film with the player to watch it here.</source>
+        <translation>プレーヤーで映画を開くと、ここで視聴できます。</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
-#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTranslator>
+#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ namespace {
 std::vector<QString> languages()
 {
     std::vector<QString> codes;
-    QFile list(QUORIN_LANGUAGES);
+    QFile list(QString(QUORIN_TRANSLATIONS) + "/languages.txt");
     EXPECT_TRUE(list.open(QIODevice::ReadOnly));
     for (const QByteArray &line : list.readAll().split('\n')) {
         if (!line.isEmpty() && !line.startsWith('#'))
@@ -38,6 +39,61 @@ TEST(TranslationsTest, EveryLanguageOfTheListIsBuiltAndSaysItsName)
         const auto name = names.find(code);
         ASSERT_NE(name, names.end()) << qPrintable(code);
         EXPECT_EQ(translator.translate("LanguageManager", "Language name of this translation"), name->second);
+    }
+}
+
+struct Message {
+    QString context;
+    QString source;
+    QString translation;
+    bool finished{true};
+};
+
+std::vector<Message> messagesOf(const QString &file)
+{
+    QFile source(file);
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&source);
+    std::vector<Message> messages;
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.push_back({context, xml.readElementText(), {}});
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.back().finished = !xml.attributes().hasAttribute("type");
+            messages.back().translation =
+                xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+    return messages;
+}
+
+QStringList placesIn(const QString &text)
+{
+    static const QRegularExpression place("%L?[0-9n]|\\*\\)|<[^>]*>");
+    QStringList found;
+    auto all = place.globalMatch(text);
+    while (all.hasNext())
+        found << all.next().captured();
+    found.sort();
+    return found;
+}
+
+TEST(TranslationsTest, EveryTextIsTranslatedAndKeepsItsPlaceholders)
+{
+    for (const QString &code : languages()) {
+        const auto messages = messagesOf(QString("%1/Quorin6_%2.ts").arg(QUORIN_TRANSLATIONS, code));
+        EXPECT_GT(messages.size(), 50u);
+        for (const Message &message : messages) {
+            const QString where = code + ' ' + message.context + ": " + message.source;
+            EXPECT_TRUE(message.finished && !message.translation.isEmpty()) << qPrintable(where);
+            EXPECT_EQ(placesIn(message.translation), placesIn(message.source)) << qPrintable(where);
+        }
     }
 }
 

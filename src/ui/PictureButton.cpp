@@ -5,9 +5,17 @@
 
 namespace {
 
-QIcon named(const QString &name)
+// The sharpest form of a picture, brought to the size that the button shows: an icon by itself never grows.
+QIcon named(const QString &name, int size, qreal ratio)
 {
-    return QIcon(QLatin1String(StyleLoader::kPicturePrefix) + name + QLatin1String(".png"));
+    const QIcon icon(QLatin1String(StyleLoader::kPicturePrefix) + name + QLatin1String(".png"));
+    QPixmap pixmap = icon.pixmap(QSize(1, 1) * 4096);
+    if (pixmap.isNull() || size <= 0)
+        return icon;
+    pixmap.setDevicePixelRatio(1.0);
+    pixmap = pixmap.scaled(QSize(size, size) * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    pixmap.setDevicePixelRatio(ratio);
+    return QIcon(pixmap);
 }
 
 } // namespace
@@ -22,8 +30,9 @@ PictureButton::PictureButton(const QString &picture, QWidget *parent)
 
 void PictureButton::setPicture(const QString &picture)
 {
-    m_plain = named(picture);
-    m_hover = named(picture + QLatin1String("_hover"));
+    m_picture = picture;
+    m_plain = named(picture, iconSize().width(), devicePixelRatioF());
+    m_hover = named(picture + QLatin1String("_hover"), iconSize().width(), devicePixelRatioF());
     setIcon(underMouse() ? m_hover : m_plain);
 }
 
@@ -32,6 +41,7 @@ void PictureButton::setDesignSize(const QSize &button, int picture)
     const auto *scale = DisplayScale::instance();
     setFixedSize(scale->scaleWidth(button.width()), scale->scaleHeight(button.height()));
     setIconSize({scale->scaleWidth(picture), scale->scaleHeight(picture)});
+    setPicture(m_picture);
 }
 
 void PictureButton::enterEvent(QEvent *event)

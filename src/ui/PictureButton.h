@@ -21,6 +21,7 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    QString m_picture;
     QIcon m_plain;
     QIcon m_hover;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int LineHeight = 140; // percent
+constexpr int LineHeight = 130; // percent
 
 } // namespace
 

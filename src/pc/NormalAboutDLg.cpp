@@ -84,7 +84,8 @@ void NormalAboutDLg::addIdentity(const Identity &identity)
         facts << tr("built on %1").arg(QLocale().toString(identity.buildDate, QLocale::LongFormat));
     lines->addWidget(makeLabel(DialogLook::Soft, facts.join(QStringLiteral(", ")), panel()));
     lines->addWidget(makeLabel(DialogLook::Soft,
-                               tr("Free software under the GNU General Public License, version 3"), panel()));
+                               tr("Free software under the GNU General Public License, version 3 or later"),
+                               panel()));
 
     auto *row = new QHBoxLayout;
     row->setSpacing(Look::px(20));

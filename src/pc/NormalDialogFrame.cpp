@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -105,8 +106,34 @@ void NormalDialogFrame::reject()
     slot_close();
 }
 
+void NormalDialogFrame::relayOut()
+{
+    for (QWidget *part : m_panel->findChildren<QWidget *>())
+        part->ensurePolished();
+    // The outer layout keeps the panel's size until it is told.
+    m_panel->layout()->invalidate();
+    m_panel->layout()->activate();
+    layout()->invalidate();
+    layout()->activate();
+}
+
+void NormalDialogFrame::fit()
+{
+    relayOut();
+    resizeTo(qMax(minimumWidth(), layout()->totalSizeHint().width()));
+}
+
+void NormalDialogFrame::resizeTo(int width)
+{
+    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                     : layout()->totalSizeHint().height();
+    resize(width, qMax(height, minimumHeight()));
+}
+
 void NormalDialogFrame::showEvent(QShowEvent *event)
 {
+    if (!event->spontaneous())
+        fit();
     QMoveableNoBordersWnd::showEvent(event);
     showShadow();
 }

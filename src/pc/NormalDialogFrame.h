@@ -38,6 +38,13 @@ protected:
     // Height of the screen that the dialog opens on, without what the desktop keeps for itself.
     [[nodiscard]] int screenHeight() const;
 
+    // Gives the dialog the size of its parts; before each show, when styles and fonts are known.
+    virtual void fit();
+    // Lays the parts out and takes their sizes up to the dialog.
+    void relayOut();
+    // A width, and the height that the parts need at it.
+    void resizeTo(int width);
+
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void moveEvent(QMoveEvent *event) override;

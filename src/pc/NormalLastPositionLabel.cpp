@@ -58,6 +58,7 @@ void NormalLastPositionLabel::setPosition(int seconds, const QByteArray &picture
     resize(sizeHint());
     updateGeometry();
     update();
+    emit sig_shapeChanged();
 }
 
 QSize NormalLastPositionLabel::sizeHint() const
@@ -66,7 +67,8 @@ QSize NormalLastPositionLabel::sizeHint() const
     const QFontMetrics metrics(Look::font(13));
     const int text =
         qMax(Look::px(TextWidth), metrics.horizontalAdvance(tr("Last playback at")) + Look::px(4));
-    return {2 * Look::px(Margin) + picture + text, 2 * Look::px(Margin) + Look::px(PictureSize.height())};
+    return sizeFor(
+        {2 * Look::px(Margin) + picture + text, 2 * Look::px(Margin) + Look::px(PictureSize.height())});
 }
 
 void NormalLastPositionLabel::slot_showLabel()
@@ -158,7 +160,7 @@ void NormalLastPositionLabel::mousePressEvent(QMouseEvent *event)
 
 void NormalLastPositionLabel::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool isClick = m_isPressed && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    const bool isClick = m_isPressed && event->button() == Qt::LeftButton && card().contains(event->pos());
     m_isPressed = false;
     update();
     event->accept();

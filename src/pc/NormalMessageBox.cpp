@@ -7,12 +7,12 @@
 #include "ui/LookTokens.h"
 
 #include <QCheckBox>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QPointer>
 #include <QPushButton>
+#include <QShowEvent>
 
 namespace {
 
@@ -153,10 +153,11 @@ void NormalMessageBox::done(int result)
 
 void NormalMessageBox::showEvent(QShowEvent *event)
 {
-    m_isEnded = false;
-    m_result = NoButton;
-    orderFocus();
-    fit();
+    if (!event->spontaneous()) {
+        m_isEnded = false;
+        m_result = NoButton;
+        orderFocus();
+    }
     NormalDialogFrame::showEvent(event);
 }
 
@@ -176,18 +177,8 @@ void NormalMessageBox::orderFocus()
     chosen->setFocus();
 }
 
-// The outer layout keeps the panel's size until it is told.
-void NormalMessageBox::relayOut()
-{
-    panel()->layout()->activate();
-    layout()->invalidate();
-    layout()->activate();
-}
-
 void NormalMessageBox::fit()
 {
-    ensurePolished();
-    m_text->ensurePolished();
     const int limit = screenHeight() / 2;
     const int margins = 2 * Look::px(DialogLook::SideMargin) + 2;
     relayOut();
@@ -196,7 +187,5 @@ void NormalMessageBox::fit()
         width = qMax(width, Look::px(WideWidth));
     m_text->fit(width - margins, limit);
     relayOut();
-    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
-                                                     : layout()->totalSizeHint().height();
-    resize(width, qMax(height, minimumHeight()));
+    resizeTo(width);
 }

@@ -50,12 +50,11 @@ public slots:
     void done(int result) override;
 
 protected:
+    void fit() override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void press(int id, const Callback &callback, bool closeAfter);
-    void fit();
-    void relayOut();
     void orderFocus();
 
     QList<QPushButton *> m_buttons;

@@ -60,7 +60,7 @@ NormalTvshowAutoPlayLabel::NormalTvshowAutoPlayLabel(INextEpisodeSource *episode
 
 QSize NormalTvshowAutoPlayLabel::sizeHint() const
 {
-    return {Look::px(Size.width()), Look::px(Size.height())};
+    return sizeFor({Look::px(Size.width()), Look::px(Size.height())});
 }
 
 void NormalTvshowAutoPlayLabel::forget()
@@ -90,13 +90,12 @@ void NormalTvshowAutoPlayLabel::take(const NextEpisode &next)
     m_poster = {};
     if (!next.poster.isEmpty() && !m_poster.loadFromData(next.poster))
         qInfo() << "[Play control] poster of the next episode is broken, bytes:" << next.poster.size();
-    const int left =
-        Look::px(Margin) + (m_poster.isNull() ? Look::px(4) : Look::px(PosterSize.width()) + Look::px(Gap));
-    layout()->setContentsMargins(left, Look::px(Margin) + Look::px(2), Look::px(Margin) + Look::px(4),
-                                 Look::px(Margin) + Look::px(2));
     resize(sizeHint());
+    cardMoved();
+    const QMargins around = layout()->contentsMargins();
     const QFontMetrics metrics(Look::font(TitleSize, QFont::DemiBold));
-    m_title->setText(metrics.elidedText(next.title, Qt::ElideRight, width() - left - 2 * Look::px(Margin)));
+    m_title->setText(metrics.elidedText(next.title, Qt::ElideRight,
+                                        width() - around.left() - around.right() - Look::px(2)));
     m_title->setToolTip(next.title);
     setAccessibleName(tr("Up Next: ") + next.title);
     update();
@@ -148,13 +147,24 @@ void NormalTvshowAutoPlayLabel::notThisTime()
     slot_hideLabel();
 }
 
+void NormalTvshowAutoPlayLabel::cardMoved()
+{
+    if (!layout())
+        return;
+    const QRect place = card();
+    const int poster = m_poster.isNull() ? Look::px(4) : Look::px(PosterSize.width()) + Look::px(Gap);
+    layout()->setContentsMargins(Look::px(Margin) + poster, place.top() + Look::px(Margin) + Look::px(2),
+                                 Look::px(Margin) + Look::px(4),
+                                 height() - 1 - place.bottom() + Look::px(Margin) + Look::px(2));
+}
+
 void NormalTvshowAutoPlayLabel::paintCard(QPainter &painter)
 {
     PictureNote::paintCard(painter);
     if (m_poster.isNull())
         return;
-    const QRect place(Look::px(Margin), Look::px(Margin), Look::px(PosterSize.width()),
-                      height() - 2 * Look::px(Margin));
+    const QRect place(Look::px(Margin), card().top() + Look::px(Margin), Look::px(PosterSize.width()),
+                      card().height() - 2 * Look::px(Margin));
     QPainterPath clip;
     clip.addRoundedRect(place, Look::px(Look::CornerControl), Look::px(Look::CornerControl));
     painter.setClipPath(clip);

@@ -40,6 +40,7 @@ public slots:
 
 protected:
     void paintCard(QPainter &painter) override;
+    void cardMoved() override;
 
 private:
     void take(const NextEpisode &next);

@@ -1,31 +1,23 @@
 #include "PictureNote.h"
 
-#include "platform/Compositing.h"
 #include "ui/LookTokens.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
-#include <QPainterPath>
 #include <QVariantAnimation>
 
 namespace {
 
 const QString AnimateKey = QStringLiteral("animate");
 
-QPainterPath cardShape(const QRectF &rect)
-{
-    QPainterPath path;
-    path.addRoundedRect(rect, Look::px(Look::CornerCard), Look::px(Look::CornerCard));
-    return path;
-}
+constexpr int Rise = 8; // design pixels that the card moves while it comes
+constexpr double GroundOpacity = 0.94;
 
 } // namespace
 
 PictureNote::PictureNote(QWidget *parent)
-    : QWidget(parent)
+    : OverlayWidget(parent)
 {
-    setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_ShowWithoutActivating);
     setFont(Look::font(13));
     hide();
 }
@@ -39,8 +31,9 @@ PictureNote::~PictureNote()
 void PictureNote::open()
 {
     m_isOpen = true;
-    show();
-    raise();
+    appear();
+    if (!isWindow())
+        raise();
     runAnimate(AnimateKey, true);
 }
 
@@ -50,40 +43,45 @@ void PictureNote::dismiss()
         return;
     m_isOpen = false;
     runAnimate(AnimateKey, false);
+    // A host fades what no longer wants to be seen, so the card sinks meanwhile.
+    if (isWindow())
+        disappear();
 }
 
 void PictureNote::initAnimate(QString name)
 {
     if (hasAnimate(name))
         return;
-    auto fade = QSharedPointer<QVariantAnimation>::create();
-    connect(fade.data(), &QVariantAnimation::valueChanged, this,
+    auto way = QSharedPointer<QVariantAnimation>::create();
+    connect(way.data(), &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setShown(value.toDouble()); });
-    connect(fade.data(), &QVariantAnimation::finished, this, [this] {
+    connect(way.data(), &QVariantAnimation::finished, this, [this] {
         if (!m_isOpen)
-            hide();
+            disappear();
     });
-    setAnimate(name, fade);
+    setAnimate(name, way);
 }
 
 void PictureNote::startAnimate(QString name, bool forward)
 {
-    auto *fade = static_cast<QVariantAnimation *>(animate(name));
-    fade->stop();
-    fade->setStartValue(m_shown);
-    fade->setEndValue(forward ? 1.0 : 0.0);
-    fade->setDuration(forward ? Look::FadeInMs : Look::FadeOutMs);
-    fade->setEasingCurve(QEasingCurve::OutCubic);
-    fade->start();
+    auto *way = static_cast<QVariantAnimation *>(animate(name));
+    if (!way)
+        return;
+    way->stop();
+    way->setStartValue(m_shown);
+    way->setEndValue(forward ? 1.0 : 0.0);
+    way->setDuration(forward ? Look::FadeInMs : Look::FadeOutMs);
+    way->setEasingCurve(QEasingCurve::OutCubic);
+    way->start();
 }
 
 void PictureNote::setShown(double value)
 {
     m_shown = value;
-    if (isWindow()) {
-        setWindowOpacity(value);
+    cardMoved();
+    update();
+    if (isWindow())
         return;
-    }
     auto *effect = qobject_cast<QGraphicsOpacityEffect *>(graphicsEffect());
     if (!effect) {
         effect = new QGraphicsOpacityEffect(this);
@@ -93,19 +91,48 @@ void PictureNote::setShown(double value)
     effect->setEnabled(value < 1.0);
 }
 
+QRect PictureNote::card() const
+{
+    // Cut to its shape, the card can't move: the window would have to be cut anew at each step.
+    const int room = Look::px(Rise);
+    const int down = isCompact() ? 0 : qRound((1.0 - m_shown) * room);
+    return rect().adjusted(0, down, 0, down - room);
+}
+
+QSize PictureNote::sizeFor(const QSize &card)
+{
+    return card + QSize(0, Look::px(Rise));
+}
+
+QPainterPath PictureNote::shapeOf(const QRectF &rect) const
+{
+    QPainterPath path;
+    path.addRoundedRect(rect, Look::px(cornerRadius()), Look::px(cornerRadius()));
+    return path;
+}
+
+QPainterPath PictureNote::opaqueShape() const
+{
+    return shapeOf(card());
+}
+
+bool PictureNote::takesMouseAt(const QPoint &position) const
+{
+    return card().contains(position);
+}
+
 void PictureNote::paintCard(QPainter &painter)
 {
-    const bool isBlended = !isWindow() || Compositing::isActive();
     QColor ground = Look::color(Look::Panel);
-    if (isBlended)
-        ground.setAlphaF(0.94);
+    if (!isCompact())
+        ground.setAlphaF(GroundOpacity);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
-    painter.drawPath(cardShape(card()));
+    painter.drawPath(shapeOf(card()));
     const double half = Look::px(1) / 2.0;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Look::color(Look::NoteLine), Look::px(1)));
-    painter.drawPath(cardShape(QRectF(card()).adjusted(half, half, -half, -half)));
+    painter.drawPath(shapeOf(QRectF(card()).adjusted(half, half, -half, -half)));
 }
 
 void PictureNote::paintEvent(QPaintEvent *)
@@ -117,20 +144,6 @@ void PictureNote::paintEvent(QPaintEvent *)
 
 void PictureNote::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
-    cutToShape();
-}
-
-void PictureNote::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    cutToShape();
-}
-
-void PictureNote::cutToShape()
-{
-    if (isWindow() && !Compositing::isActive())
-        setMask(QRegion(cardShape(rect()).toFillPolygon().toPolygon()));
-    else
-        clearMask();
+    OverlayWidget::resizeEvent(event);
+    cardMoved();
 }

@@ -1,6 +1,7 @@
 #include "pc/NormalLastPositionLabel.h"
 
 #include "ui/LookTokens.h"
+#include "ui/OverlayHost.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -156,4 +157,47 @@ TEST(NormalLastPositionLabelLifeTest, DeletedWhileItFadesAndBeforeItsTracks)
     QSignalSpy tracks(label.get(), &NormalLastPositionLabel::sig_setupAudioSub);
     label.reset();
     EXPECT_FALSE(tracks.wait(600));
+}
+
+TEST(NormalLastPositionLabelHostTest, HostShowsItAsAWindowAndTakesItAwayWhenItEnds)
+{
+    qint64 now = 0;
+    QWidget window;
+    window.resize(800, 600);
+    window.show();
+    OverlayHost host(&window);
+    host.setCompositingQuery([] { return true; });
+    NormalLastPositionLabel label([&now] { return now; }, [](double) {}, &window);
+    host.add(&label, {OverlayRule::Anchor::BottomLeft, {24, 0, 0, 24}, 1});
+    label.setPosition(2530, png());
+    EXPECT_FALSE(label.isVisible());
+    label.slot_showLabel();
+    EXPECT_TRUE(label.isWindow());
+    EXPECT_TRUE(label.isVisible());
+    EXPECT_TRUE(host.isShown(&label));
+    EXPECT_EQ(label.graphicsEffect(), nullptr);
+    EXPECT_TRUE(window.rect().contains(QRect(window.mapFromGlobal(label.pos()), label.size())));
+    now = 8000;
+    label.tick();
+    EXPECT_FALSE(host.isShown(&label));
+    QTRY_VERIFY_WITH_TIMEOUT(!label.isVisible(), 5000);
+    label.slot_showLabel();
+    EXPECT_TRUE(label.isVisible());
+}
+
+TEST(NormalLastPositionLabelHostTest, WithoutBlendingTheCardIsOpaqueAndDoesNotMove)
+{
+    QWidget window;
+    window.resize(800, 600);
+    window.show();
+    OverlayHost host(&window);
+    host.setCompositingQuery([] { return false; });
+    NormalLastPositionLabel label([] { return qint64(0); }, [](double) {}, &window);
+    host.add(&label, {OverlayRule::Anchor::BottomLeft, {24, 0, 0, 24}, 1});
+    label.setPosition(2530, png());
+    label.slot_showLabel();
+    const QPainterPath shape = label.opaqueShape();
+    label.animate("animate")->setCurrentTime(Look::FadeInMs);
+    EXPECT_EQ(label.opaqueShape(), shape);
+    EXPECT_EQ(label.grab().toImage().pixelColor(label.width() - 6, 20).alpha(), 255);
 }

@@ -1,22 +1,20 @@
 #include "SingleApplication.h"
 
+#include "InstanceLock.h"
 #include "InstanceMessage.h"
 #include "LocalPeer.h"
 #include "ServerNameProbe.h"
 #include "ThreadWorker.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 
 namespace {
 
 constexpr int kMaxPeers = 32;
 constexpr int kRetryMs = 500;
-constexpr int kLockWaitMs = 1000;
 constexpr int kAnswerType = static_cast<int>(UpdateStatus::NewVersion);
 
 } // namespace
@@ -54,8 +52,7 @@ bool SingleApplication::isListening() const
 // and two copies that start at once do this one after the other.
 void SingleApplication::listen()
 {
-    QLockFile lock(QDir::tempPath() + QLatin1Char('/') + serverName + QStringLiteral(".lock"));
-    lock.tryLock(kLockWaitMs);
+    const InstanceLock lock;
     isRunning = probeServerName(serverName, timeoutMs) == ServerState::Alive;
     if (isRunning)
         return;

@@ -1,19 +1,17 @@
 #include "SingleInstance.h"
 
+#include "InstanceLock.h"
 #include "InstanceMessage.h"
 #include "SingleApplication.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
-#include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
-#include <QLockFile>
 
 namespace {
 
 constexpr int kSegmentSize = 1;
-constexpr int kLockWaitMs = 1000;
 // Program path and one file.
 constexpr int kEntriesWithFile = 2;
 
@@ -32,9 +30,7 @@ SingleInstance::~SingleInstance()
 bool SingleInstance::acquire()
 {
     // Two copies that look after a left-behind segment at once would each take the other for its owner.
-    QLockFile lock(QDir::tempPath() + QLatin1Char('/') + QString::fromLatin1(SegmentKey)
-                   + QStringLiteral(".lock"));
-    lock.tryLock(kLockWaitMs);
+    const InstanceLock lock;
     if (createSegment())
         return true;
     // Where segments outlive their processes the last one to detach removes it, and a live owner keeps it

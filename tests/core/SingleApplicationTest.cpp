@@ -345,8 +345,8 @@ TEST_F(UpdaterTest, IsToldWhatThePlayerHasToSay)
     ChildProcess &first = firstCopy();
     first.tell("message 2");
     EXPECT_EQ(heard(), "[#PAndU#]2:");
-    first.tell("picture /tmp/a:b.png");
-    EXPECT_EQ(heard(), "[#PAndU#]4:/tmp/a:b.png");
+    first.tell("picture /pictures/a:b.png");
+    EXPECT_EQ(heard(), "[#PAndU#]4:/pictures/a:b.png");
 }
 
 TEST_F(SingleApplicationTest, AMessageToAnUpdaterThatDoesNotRunIsSilent)

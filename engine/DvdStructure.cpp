@@ -74,7 +74,7 @@ void readVideo(const BigEndianReader &reader, DvdTitle &title)
     static constexpr int widths[] = {720, 704, 352, 352};
     const std::uint32_t format = reader.number(VideoAttributes, 2);
     const bool pal = ((format >> 12) & 3) == 1;
-    const std::uint32_t size = (format >> 2) & 3;
+    const std::uint32_t size = std::min((format >> 3) & 7, 3u);
     title.width = widths[size];
     title.height = (pal ? 576 : 480) / (size == 3 ? 2 : 1);
 }

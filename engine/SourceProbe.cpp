@@ -57,31 +57,36 @@ bool isDiscEntryFile(const std::filesystem::path &file)
                        [&](const Shape &shape) { return !shape.isFolder && name == shape.entry; });
 }
 
-bool looksLikeImage(const std::string &path)
+// File systems that the descriptors of a volume name.
+struct Volume {
+    bool iso = false;
+    bool udf = false;
+};
+
+Volume volumeOf(const std::string &path)
 {
+    Volume volume;
     LocalFile file;
     if (!file.open(path, true))
-        return false;
+        return volume;
     std::array<char, 6> name{};
     for (std::int64_t i = 0; i < DescriptorCount; ++i) {
         if (file.readAt((FirstDescriptor + i) * SectorSize, name.data(), name.size())
             != static_cast<std::int64_t>(name.size()))
-            return false;
-        for (const char *known : {"CD001", "BEA01", "NSR02", "NSR03"}) {
-            if (std::memcmp(name.data() + 1, known, 5) == 0)
-                return true;
-        }
+            break;
+        const auto is = [&name](const char *known) { return std::memcmp(name.data() + 1, known, 5) == 0; };
+        volume.iso = volume.iso || is("CD001");
+        volume.udf = volume.udf || is("NSR02") || is("NSR03");
     }
-    return false;
+    return volume;
 }
 
 VD_SourceForm formOfVolume(const std::string &path, VD_SourceForm dvd, VD_SourceForm bluRay)
 {
-    if (!looksLikeImage(path))
-        return VD_Source_File;
-    if (DvdDisc::open(path))
+    const Volume volume = volumeOf(path);
+    if ((volume.iso || volume.udf) && DvdDisc::open(path))
         return dvd;
-    return BluRayDisc::open(path) ? bluRay : VD_Source_File;
+    return volume.udf && BluRayDisc::open(path) ? bluRay : VD_Source_File;
 }
 
 // Names that do not fit into the record as they are.

@@ -11,6 +11,7 @@ namespace {
 
 // Two time stamps of one moment may differ by the rounding of their units.
 constexpr double SameMoment = 0.0015;
+constexpr double StepsBack[] = {0.0, 1.0, 3.0, 10.0, 30.0, 1e9};
 
 } // namespace
 
@@ -87,24 +88,46 @@ bool VideoSource::seekTitle(double &seconds)
     return true;
 }
 
-AvFrame VideoSource::frameAt(double seconds, bool exact)
+AvFrame VideoSource::lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late)
 {
-    double target = seconds;
-    if (m_title ? !seekTitle(target) : !seekFile(target))
-        return nullptr;
-    m_decoder->setKeyFramesOnly(!exact);
     AvFrame best;
+    m_decoder->setKeyFramesOnly(!exact);
     while (AvFrame frame = m_decoder->next()) {
-        if (!exact)
-            return frame;
         const double time = m_decoder->secondsOf(*frame);
-        const bool reached = !std::isnan(time) && time >= target - SameMoment;
-        if (!best || !reached || time <= target + SameMoment)
-            best = std::move(frame);
-        if (reached)
+        if (!std::isnan(time) && time > target + SameMoment) {
+            late = std::move(frame);
+            break;
+        }
+        best = std::move(frame);
+        if (firstWillDo || time >= target - SameMoment)
             break;
     }
     return best;
+}
+
+AvFrame VideoSource::frameAt(double seconds, bool exact)
+{
+    if (m_title) {
+        double target = seconds;
+        AvFrame late;
+        if (!seekTitle(target))
+            return nullptr;
+        AvFrame frame = lastFrameUntil(target, exact, !exact, late);
+        return frame ? std::move(frame) : std::move(late);
+    }
+    // Where a file has no index, a seek lands anywhere before the time, and the next key frame may be behind
+    // it.
+    AvFrame late;
+    for (const double back : StepsBack) {
+        const double from = std::max(0.0, seconds - back);
+        if (m_deadline.isOver() || !seekFile(from))
+            break;
+        if (AvFrame frame = lastFrameUntil(seconds, exact, !exact && back == 0.0, late))
+            return frame;
+        if (from == 0.0)
+            break;
+    }
+    return late;
 }
 
 bool VideoSource::grab(double seconds, bool exact, int width, int height, Picture &picture)

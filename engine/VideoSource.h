@@ -39,6 +39,7 @@ private:
     bool seekFile(double seconds);
     bool seekTitle(double &seconds);
     AvFrame frameAt(double seconds, bool exact);
+    AvFrame lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late);
 
     Deadline &m_deadline;
     // Declared in this order: each uses the one before it.

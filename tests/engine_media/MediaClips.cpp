@@ -48,11 +48,14 @@ std::string pattern()
 std::string turned()
 {
     // Before it is turned, the top of the picture is its left edge.
-    return made(
-        QStringLiteral("turned.mp4"),
-        QStringLiteral("-f lavfi -i color=blue:size=320x180:rate=10:duration=1 "
-                       "-vf drawbox=x=0:y=0:w=80:h=180:color=red:t=fill -c:v libx264 -preset ultrafast "
-                       "-pix_fmt yuv420p -threads 1 -metadata:s:v:0 rotate=270"));
+    const std::string flat =
+        made(QStringLiteral("flat.mp4"),
+             QStringLiteral("-f lavfi -i color=blue:size=320x180:rate=10:duration=1 "
+                            "-vf drawbox=x=0:y=0:w=80:h=180:color=red:t=fill -c:v libx264 -preset ultrafast "
+                            "-pix_fmt yuv420p -threads 1"));
+    // The encoder drops the mark, a copy keeps it.
+    return made(QStringLiteral("turned.mp4"),
+                QStringLiteral("-i %1 -c copy -metadata:s:v:0 rotate=270").arg(QString::fromStdString(flat)));
 }
 
 std::string wide()

@@ -10,7 +10,7 @@
 namespace {
 
 // A change of what is made needs a new number, else an old build folder keeps the old discs.
-constexpr const char *CacheVersion = "4";
+constexpr const char *CacheVersion = "6";
 constexpr int ToolTimeoutMs = 120000;
 constexpr int LockTimeoutMs = 240000;
 

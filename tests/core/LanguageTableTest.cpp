@@ -56,7 +56,7 @@ TEST(LanguageTableTest, NamesAndCodesLeadToEachOther)
 TEST(LanguageTableTest, UnknownNamesAndCodesGiveNothing)
 {
     EXPECT_EQ(LanguageTable::codeOf("Klingon"), "");
-    EXPECT_EQ(LanguageTable::nameOf("XXX"), "");
+    EXPECT_EQ(LanguageTable::nameOf("ZZZ"), "");
     EXPECT_EQ(LanguageTable::nameOf(""), "");
 }
 

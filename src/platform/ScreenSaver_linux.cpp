@@ -11,8 +11,10 @@ ScreenSaverInhibitor &inhibitor()
 {
     static ScreenSaverInhibitor *const made = [] {
         auto *object = new ScreenSaverInhibitor(ScreenSaverInhibitor::sessionBusAddress());
-        // The bus is usable only with an application object; until there is one the wish is remembered.
-        qAddPreRoutine([] { inhibitor().apply(); });
+        // The bus is usable only with an application object; until there is one the wish is remembered. With
+        // one a routine would run at once, inside this very initialisation.
+        if (QCoreApplication::instance() == nullptr)
+            qAddPreRoutine([] { inhibitor().apply(); });
         return object;
     }();
     return *made;

@@ -6,7 +6,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QTime>
 #include <QVBoxLayout>
 
@@ -88,5 +87,5 @@ void TvStartWidget::hideEvent(QHideEvent *event)
 
 void TvStartWidget::showTime()
 {
-    m_clock->setText(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
+    m_clock->setText(QTime::currentTime().toString(QStringLiteral("HH:mm")));
 }

@@ -26,7 +26,7 @@ TEST_F(StartupSequenceTest, PcModeRunsEachStepInOrderAndShutsDownInOrder)
     EXPECT_EQ(run(), 0);
     EXPECT_EQ(m_services.steps,
               kBeforeGuard + kServices
-                  + QStringList{"startBackgroundThread", "openPcMode", "logInitCompleted", "runEventLoop"}
+                  + QStringList({"startBackgroundThread", "openPcMode", "logInitCompleted", "runEventLoop"})
                   + kExit);
     EXPECT_FALSE(m_services.start.hasFile);
 }
@@ -37,7 +37,7 @@ TEST_F(StartupSequenceTest, TvModeTakesTheSameWayToItsOwnWindow)
     EXPECT_EQ(run(), 0);
     EXPECT_EQ(m_services.steps,
               kBeforeGuard + kServices
-                  + QStringList{"startBackgroundThread", "openTvMode", "logInitCompleted", "runEventLoop"}
+                  + QStringList({"startBackgroundThread", "openTvMode", "logInitCompleted", "runEventLoop"})
                   + kExit);
 }
 
@@ -149,7 +149,7 @@ TEST_F(StartupSequenceTest, ClosingTheQuestionEndsWithOneAfterReleasingTheStyle)
     EXPECT_EQ(run(), 1);
     EXPECT_EQ(m_services.steps,
               kBeforeGuard + kServices
-                  + QStringList{"askMode", "releaseStyles", "releaseSharedMemory", "destroyApplication"});
+                  + QStringList({"askMode", "releaseStyles", "releaseSharedMemory", "destroyApplication"}));
 }
 
 TEST_F(StartupSequenceTest, AddPlanAloneIsPlayedAsAFile)

@@ -7,10 +7,13 @@
 #include "ui/PictureButton.h"
 #include "ui/QShadowWnd.h"
 #include "ui/RoundCorners.h"
+#include "ui/StyleLoader.h"
 
 #include <QFrame>
 #include <QGuiApplication>
+#include <QImage>
 #include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
@@ -147,10 +150,20 @@ void NormalDialogFrame::showShadow()
         m_shadow = std::make_unique<QShadowWnd>(this, QShadowPainter::Set::SubWindow);
         m_shadow->setAttribute(Qt::WA_TransparentForMouseEvents);
         m_shadow->winId();
+        const QImage side(QLatin1String(StyleLoader::kPicturePrefix) + QLatin1String("shadow_sub_left.png"));
+        if (!side.isNull())
+            m_shadowEdge = side.pixelColor(side.width() - 1, side.height() / 2);
         if (parentWidget() && parentWidget()->window()->windowHandle())
             m_shadow->windowHandle()->setTransientParent(parentWidget()->window()->windowHandle());
     }
     m_shadow->show();
+}
+
+// The shadow ends at the window's rectangle; outside the panel's round corners it goes on in here.
+void NormalDialogFrame::paintEvent(QPaintEvent *)
+{
+    if (m_shadow && m_shadow->isVisible())
+        QPainter(this).fillRect(rect(), m_shadowEdge);
 }
 
 void NormalDialogFrame::hideEvent(QHideEvent *event)

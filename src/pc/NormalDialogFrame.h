@@ -6,6 +6,8 @@
 
 #include "ui/QMoveableNoBordersWnd.h"
 
+#include <QColor>
+
 #include <memory>
 
 class QFrame;
@@ -45,6 +47,7 @@ protected:
     // A width, and the height that the parts need at it.
     void resizeTo(int width);
 
+    void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
@@ -57,4 +60,5 @@ private:
     QLabel *m_title{nullptr};
     QVBoxLayout *m_body{nullptr};
     std::unique_ptr<QShadowWnd> m_shadow;
+    QColor m_shadowEdge{Qt::transparent}; // the shadow where it meets the panel
 };

@@ -48,6 +48,15 @@ quint64 ThreadWorker::addTask(std::function<void()> work, std::function<void()> 
     return id;
 }
 
+// Deleting a running thread would end the process. What it uses is its own, and it goes once its task ends.
+void ThreadWorker::leaveBehind(const PoolThread &pool)
+{
+    connect(pool.thread, &QThread::finished, pool.worker, &QObject::deleteLater);
+    connect(pool.thread, &QThread::finished, pool.thread, &QObject::deleteLater);
+    if (pool.thread->isFinished())
+        pool.thread->deleteLater();
+}
+
 bool ThreadWorker::stopRequested()
 {
     return QThread::currentThread()->isInterruptionRequested();
@@ -66,8 +75,8 @@ bool ThreadWorker::stop(int timeoutMs)
             delete pool.worker;
             delete pool.thread;
         } else {
-            // Deleting a running thread would end the process; what it uses is its own.
             qInfo() << "[Process] a worker does not end and is left behind";
+            leaveBehind(pool);
             all = false;
         }
     }

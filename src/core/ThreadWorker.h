@@ -51,6 +51,7 @@ private:
     };
 
     void startThread();
+    static void leaveBehind(const PoolThread &pool);
 
     Detail::Noticeer *m_noticeer;
     std::shared_ptr<Detail::TaskQueue> m_queue;

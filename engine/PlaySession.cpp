@@ -281,6 +281,11 @@ void PlaySession::announceStart()
 {
     if (m_state != State::Opening || m_failed)
         return;
+    const double total = facts().total;
+    if (!m_reloaded && total > 0 && m_request.startSeconds >= total && m_plan.options.count("start")) {
+        playFromTheBeginning();
+        return;
+    }
     m_thread.cancel(m_openTimer);
     m_state = State::Playing;
     m_openMs = static_cast<int>(
@@ -303,8 +308,9 @@ void PlaySession::announceStart()
         }
     });
     engineLog("[Play] started after %d ms: %s", m_openMs, m_plan.url.c_str());
-    if (m_request.audio >= 0 && facts().tracks.selectedAudio < 0 && !facts().tracks.audio.empty())
-        m_mpv->set("aid", "auto");
+    if (const TrackList tracks = facts().tracks;
+        m_request.audio >= 0 && tracks.selectedAudio < 0 && !tracks.audio.empty())
+        m_mpv->set("aid", tracks.audio.front().id);
     tellVideo();
     tellAudio();
     if (facts().tracks.selectedSubtitle >= 0)
@@ -398,18 +404,23 @@ void PlaySession::fileEnded(const MpvEvent &event)
         fail(VD_PlayError_NotFound);
 }
 
+// A stored position lies behind the end: the source has become shorter.
+void PlaySession::playFromTheBeginning()
+{
+    m_reloaded = true;
+    m_endReached = false;
+    m_plan.options.erase("start");
+    ++m_ignoredEnds;
+    loadUrl();
+}
+
 void PlaySession::checkEnd()
 {
     if (!m_endReached)
         return;
     if (m_state == State::Opening && m_startReplies == 0) {
         if (m_plan.options.count("start") && !m_reloaded) {
-            // The stored position lies behind the end: the source has become shorter.
-            m_reloaded = true;
-            m_endReached = false;
-            m_plan.options.erase("start");
-            ++m_ignoredEnds;
-            loadUrl();
+            playFromTheBeginning();
             return;
         }
         fail(VD_PlayError_NoStream);

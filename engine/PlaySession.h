@@ -116,6 +116,7 @@ private:
     void storeResumeChoice();
     void close();
     void checkEnd();
+    void playFromTheBeginning();
 
     // What libmpv tells (PlaySessionProperties.cpp).
     void onTimePos(const MpvValue &value);

@@ -371,9 +371,9 @@ void PlaySession::applyOverlay()
     const bool shown = m_preferences.informationOverlay && m_state == State::Playing;
     const std::string text = shown ? InfoOverlay::build(facts(), m_videoOutput, m_picture) : std::string();
     m_mpv->commandNamed(MpvMap{{"name", "osd-overlay"},
-                          {"id", overlayId},
-                          {"format", shown ? "ass-events" : "none"},
-                          {"data", text}});
+                               {"id", overlayId},
+                               {"format", shown ? "ass-events" : "none"},
+                               {"data", text}});
     if (shown)
         m_overlayTimer = m_thread.after(overlayInterval, [this] { applyOverlay(); });
 }
@@ -403,10 +403,8 @@ void PlaySession::optionChanged(const std::string &name, const MpvValue &value)
         if (name == "audio-spdif")
             m_passThrough = !value.text().empty();
         m_mpv->set(name, value);
-        // Files that are read already keep their characters otherwise.
-        const PlayFacts now = facts();
-        if (name == "sub-codepage" && now.tracks.selectedSubtitle >= 0
-            && now.tracks.subtitles[static_cast<std::size_t>(now.tracks.selectedSubtitle)].record.isExternal)
+        // Files that are read already keep their characters otherwise; libmpv refuses where there is none.
+        if (name == "sub-codepage")
             m_mpv->command({"sub-reload"});
     });
 }

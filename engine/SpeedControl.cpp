@@ -40,7 +40,7 @@ void SpeedControl::select(int index)
         return;
     const float speed = speeds[index];
     if (speed == 0) {
-        stopStepping();
+        stopStepping(Clock::now());
         m_paused = true;
         m_speed = 1;
         m_host.applyPause(true);
@@ -57,7 +57,7 @@ void SpeedControl::select(int index)
     if (speed < 0)
         startStepping(speed, Clock::now());
     else
-        playAt(speed);
+        playAt(speed, Clock::now());
     m_host.tellSpeed(speed);
 }
 
@@ -78,7 +78,7 @@ void SpeedControl::pause()
 {
     if (m_paused)
         return;
-    stopStepping();
+    stopStepping(Clock::now());
     m_paused = true;
     m_pacing = false;
     m_host.applyPause(true);
@@ -104,7 +104,7 @@ void SpeedControl::tick(Clock::time_point now)
     const bool atStart = m_speed < 0 && position <= 0;
     const bool atEnd = m_speed > 0 && m_host.sourceLength() > 0 && position >= m_host.sourceLength();
     if (atStart || atEnd) {
-        playAt(1);
+        playAt(1, now);
         m_host.tellSpeed(1);
         return;
     }
@@ -168,19 +168,19 @@ void SpeedControl::startStepping(float speed, Clock::time_point now)
     reposition(from, now);
 }
 
-void SpeedControl::stopStepping()
+void SpeedControl::stopStepping(Clock::time_point now)
 {
     if (!m_stepping)
         return;
-    const double position = steppedPosition(Clock::now());
+    const double position = steppedPosition(now);
     m_stepping = false;
     m_stepRuns = false;
     m_host.applyPosition(position);
 }
 
-void SpeedControl::playAt(float speed)
+void SpeedControl::playAt(float speed, Clock::time_point now)
 {
-    stopStepping();
+    stopStepping(now);
     m_speed = speed;
     m_pacing = false;
     m_host.applySpeed(static_cast<double>(speed));

@@ -64,8 +64,8 @@ public:
 
 private:
     void startStepping(float speed, Clock::time_point now);
-    void stopStepping();
-    void playAt(float speed);
+    void stopStepping(Clock::time_point now);
+    void playAt(float speed, Clock::time_point now);
 
     Host &m_host;
     bool m_paused;

@@ -31,7 +31,11 @@ TrackList::Audio readAudio(const MpvValue &track, int index)
     record.isDefault = track.at("default").flag() ? 1 : 0;
     copyText(record.language, track.at("lang").text());
     copyText(record.name, track.at("title").text());
-    const std::string &layout = track.at("demux-channels").text();
+    std::string layout = track.at("demux-channels").text();
+    if (layout.rfind("unknown", 0) == 0) // a count without positions
+        layout = record.channels == 1   ? "mono"
+                 : record.channels == 2 ? "stereo"
+                                        : std::to_string(record.channels) + " channels";
     copyText(record.format, track.at("codec").text() + (layout.empty() ? "" : " " + layout));
     audio.id = track.at("id").integer();
     audio.isExternal = track.at("external").flag();

@@ -179,8 +179,8 @@ TEST(PlayLife, SourceThatBlocksForEverIsLeftBehind)
     rig.tool->playContext().openLimit = 300ms;
     rig.tool->playContext().makePlan = [](const OpenRequest &request) {
         SourcePlan plan;
-        plan.url = "dvd://";
-        plan.options["dvd-device"] = request.path;
+        plan.url = "bd://";
+        plan.options["bluray-device"] = request.path;
         return plan;
     };
     EXPECT_FALSE(rig.open(pipe));

@@ -164,6 +164,8 @@ TEST(PlayNotifier, LinesAreServedInOrderAndNothingComesAfterClose)
     notifier.post(line, [&] { seen.push_back(2000); });
     inside.get_future().wait();
     std::thread closer([&] { notifier.close(line); });
+    while (notifier.waiting() > 0)
+        std::this_thread::yield();
     go.set_value();
     closer.join();
     EXPECT_EQ(seen.back(), 1000);

@@ -17,11 +17,11 @@ void EngineNotes::OnError(VD_ErrorCallbackType type)
     m_changed.notify_all();
 }
 
-bool EngineNotes::waitFor(int type, std::chrono::milliseconds time)
+bool EngineNotes::waitFor(int type, int wanted)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    return m_changed.wait_for(
-        lock, time, [&] { return std::find(m_types.begin(), m_types.end(), type) != m_types.end(); });
+    return m_changed.wait_for(lock, PlayRecorder::limit,
+                              [&] { return std::count(m_types.begin(), m_types.end(), type) >= wanted; });
 }
 
 int EngineNotes::count(int type) const

@@ -65,7 +65,8 @@ public:
     void OnDiscEvent(char, libvp::VD_OPTRA_DISC_NOTIFY_TYPE) override {}
     void OnDiscError(char, libvp::VD_OPTRA_DISC_ERROR_TYPE) override {}
 
-    [[nodiscard]] bool waitFor(int type, std::chrono::milliseconds time = PlayRecorder::limit);
+    // True when as many notes of the type have come.
+    [[nodiscard]] bool waitFor(int type, int count = 1);
     [[nodiscard]] int count(int type) const;
 
 private:

@@ -8,6 +8,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 struct Row {
@@ -40,6 +42,21 @@ int labelWidth(const QVector<QPair<QString, QString>> &lines, const QFontMetrics
     for (const auto &line : lines)
         widest = qMax(widest, metrics.horizontalAdvance(line.first));
     return widest;
+}
+
+// Only what is nothing but a time may be set figure by figure; every other text is shaped by its script.
+bool isTime(const QString &text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar character) {
+        return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
+               || character == QLatin1Char(':') || character == QLatin1Char('/')
+               || character == QLatin1Char(' ');
+    });
+}
+
+int timeWidth(const QFontMetrics &metrics, const QString &text)
+{
+    return isTime(text) ? FixedDigits::width(metrics, text) : 0;
 }
 
 } // namespace
@@ -114,8 +131,10 @@ void NormalMetaView::textChanged()
     int widest = nameMetrics.horizontalAdvance(m_name);
     const int label = labelWidth(all, metrics) + Look::px(kGap);
     for (const auto &line : all)
-        widest = qMax(widest, label + FixedDigits::width(metrics, line.second));
-    m_widest = qMax(m_widest, qMin(widest, Look::px(kWidest)));
+        widest = qMax(widest,
+                      label + qMax(metrics.horizontalAdvance(line.second), timeWidth(metrics, line.second)));
+    // A line drawn elsewhere than measured may be a little wider.
+    m_widest = qMax(m_widest, qMin(widest + Look::px(2), Look::px(kWidest)));
     update();
     emit sig_shapeChanged();
 }
@@ -150,11 +169,15 @@ void NormalMetaView::paintEvent(QPaintEvent *)
     const int label = labelWidth(all, painter.fontMetrics()) + Look::px(kGap);
     for (const auto &row : all) {
         painter.setPen(Look::color(Look::Soft));
-        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, row.first);
+        const int baseline = Look::baseline(line, painter.fontMetrics());
+        painter.drawText(line.left(), baseline, row.first);
         painter.setPen(Look::color(Look::Text));
         const QRect value = line.adjusted(label, 0, 0, 0);
-        FixedDigits::draw(painter, value, Qt::AlignLeft,
-                          painter.fontMetrics().elidedText(row.second, Qt::ElideRight, value.width()));
+        if (isTime(row.second))
+            FixedDigits::draw(painter, value, Qt::AlignLeft, row.second);
+        else
+            painter.drawText(value.left(), baseline,
+                             painter.fontMetrics().elidedText(row.second, Qt::ElideRight, value.width()));
         line.translate(0, line.height());
     }
 }

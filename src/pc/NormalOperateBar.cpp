@@ -55,7 +55,12 @@ NormalOperateBar::NormalOperateBar(PlayerCommands commands, SettingsManager &set
     updateEnabled();
 }
 
-NormalOperateBar::~NormalOperateBar() = default;
+NormalOperateBar::~NormalOperateBar()
+{
+    // The controls are hidden and deleted after this, and must not tell what is half gone.
+    m_progress->disconnect(this);
+    m_volumeSlider->disconnect(this);
+}
 
 void NormalOperateBar::makeButtons()
 {
@@ -284,17 +289,29 @@ void NormalOperateBar::updateEnabled()
             button(row.button)->setEnabled(loaded);
     }
     m_progress->setEnabled(loaded && m_hasTimeLine);
+    m_time->setEnabled(loaded);
 }
 
 // ---- geometry and picture
 
-void NormalOperateBar::arrange()
+TransportLayout NormalOperateBar::layoutOfSize() const
 {
     TransportLayout::PlaceSet absent;
     absent.set(static_cast<std::size_t>(TransportPlace::MusicPixmap),
                !button(Button::MusicPixmap)->hasCover());
-    m_layout = TransportLayout::arranged(size(), double(DisplayScale::instance()->ratioWidth()), isCompact(),
-                                         m_time->sizeHint().width(), absent);
+    return TransportLayout::arranged(size(), double(DisplayScale::instance()->ratioWidth()), isCompact(),
+                                     m_time->sizeHint().width(), absent);
+}
+
+QRect NormalOperateBar::panelRect() const
+{
+    // A hidden bar learns of its new size only when it is shown, and is cut before that.
+    return layoutOfSize().panel();
+}
+
+void NormalOperateBar::arrange()
+{
+    m_layout = layoutOfSize();
     m_progress->setGeometry(m_layout.progress());
     const auto put = [this](QWidget *widget, TransportPlace place) {
         const QRect rect = m_layout.place(place);

@@ -155,7 +155,7 @@ signals:
     void sig_message(QString text);
 
 protected:
-    [[nodiscard]] QRect panelRect() const override { return m_layout.panel(); }
+    [[nodiscard]] QRect panelRect() const override;
     void compactChanged() override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -169,6 +169,7 @@ protected:
 private:
     void makeButtons();
     void connectParts();
+    [[nodiscard]] TransportLayout layoutOfSize() const;
     void arrange();
     // Whether a button is the one of its place that is seen at this moment.
     [[nodiscard]] bool isFace(Button button) const;

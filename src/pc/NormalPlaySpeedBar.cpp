@@ -113,6 +113,6 @@ void NormalPlaySpeedBar::paintEvent(QPaintEvent *)
                        TransportIcons::pixmap(name, icon, Look::color(Look::AccentHover)));
     painter.setFont(textFont());
     painter.setPen(Look::color(Look::Text));
-    painter.drawText(rect().adjusted(Look::px(kSide) + icon + Look::px(kGap), 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, shownText());
+    painter.drawText(Look::px(kSide) + icon + Look::px(kGap), Look::baseline(rect(), painter.fontMetrics()),
+                     shownText());
 }

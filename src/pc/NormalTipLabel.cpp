@@ -109,6 +109,6 @@ void NormalTipLabel::paintEvent(QPaintEvent *)
                        TransportIcons::pixmap(m_icon, icon, Look::color(Look::Control)));
     painter.setFont(Look::font(kFontSize, QFont::Medium));
     painter.setPen(Look::color(Look::Text));
-    painter.drawText(rect().adjusted(Look::px(kSide) + icon + Look::px(kGap), 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter, m_text);
+    painter.drawText(Look::px(kSide) + icon + Look::px(kGap), Look::baseline(rect(), painter.fontMetrics()),
+                     m_text);
 }

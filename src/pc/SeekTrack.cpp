@@ -84,7 +84,7 @@ void SeekTrack::paint(QPainter &painter, const Look &look) const
         shape.addRoundedRect(body, body.height() / 2, body.height() / 2);
         painter.save();
         painter.setClipPath(shape);
-        painter.fillRect(body, ::Look::color(::Look::Track));
+        painter.fillRect(body, ::Look::color(look.enabled ? ::Look::Track : ::Look::TrackOff));
         // The way to where a click would lead.
         if (look.enabled && look.hoverX > played)
             painter.fillRect(QRectF(played, body.top(), look.hoverX - played, body.height()),

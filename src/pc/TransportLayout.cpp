@@ -36,8 +36,8 @@ constexpr Row kRows[] = {
 constexpr int kLastDrop = 9;
 
 // Design pixels.
-constexpr int kSide = 20; // from the edge to the first button, whose picture stands at 24 + a little
-constexpr int kCompactSide = 28;
+constexpr int kSide = 12; // the outer pictures end where the groove ends
+constexpr int kCompactSide = 24;
 constexpr int kGrooveSide = 24; // from the edge to the end of the groove
 constexpr int kCompactGrooveSide = 36;
 constexpr int kGrooveInset = 10; // the slider is wider than its groove, for the knob

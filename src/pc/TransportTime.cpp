@@ -45,9 +45,9 @@ void TransportTime::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setFont(Look::font(kFontSize));
     const QString position = FixedDigits::clock(m_seconds);
-    painter.setPen(Look::color(Look::Text));
+    painter.setPen(Look::color(isEnabled() ? Look::Text : Look::Mute));
     FixedDigits::draw(painter, rect(), Qt::AlignLeft, position);
-    painter.setPen(Look::color(Look::Soft));
+    painter.setPen(Look::color(isEnabled() ? Look::Soft : Look::Mute));
     FixedDigits::draw(painter, rect().adjusted(FixedDigits::width(painter.fontMetrics(), position), 0, 0, 0),
                       Qt::AlignLeft, QLatin1String(kBetween) + FixedDigits::clock(m_totalSeconds));
 }

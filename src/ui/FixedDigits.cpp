@@ -1,5 +1,7 @@
 #include "FixedDigits.h"
 
+#include "LookTokens.h"
+
 #include <QPainter>
 
 namespace FixedDigits {
@@ -39,7 +41,7 @@ void draw(QPainter &painter, const QRect &rect, Qt::Alignment alignment, const Q
         x += (rect.width() - width(metrics, text)) / 2;
     else if (alignment & Qt::AlignRight)
         x += rect.width() - width(metrics, text);
-    const int baseline = rect.top() + (rect.height() - metrics.height()) / 2 + metrics.ascent();
+    const int baseline = Look::baseline(rect, metrics);
     for (const QChar character : text) {
         const int cell = cellWidth(metrics, digit, character);
         painter.drawText(x + (cell - metrics.horizontalAdvance(character)) / 2, baseline, QString(character));

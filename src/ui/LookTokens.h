@@ -1,10 +1,13 @@
-// The look in numbers: colours, type and times, each once. Lengths are design pixels and pass through DisplayScale.
+// The look in numbers: colours, type and times, each once. Lengths are design pixels and pass through
+// DisplayScale.
 #pragma once
 
 #include "DisplayScale.h"
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetrics>
+#include <QRect>
 #include <QStringList>
 
 namespace Look {
@@ -34,6 +37,7 @@ inline constexpr QRgb ControlGround = 0x14ffffff;
 inline constexpr QRgb ControlHover = 0x1fffffff;
 inline constexpr QRgb ControlPressed = 0x33ffffff;
 inline constexpr QRgb Track = 0x40ffffff;
+inline constexpr QRgb TrackOff = 0x24ffffff;
 inline constexpr QRgb TrackHover = 0x66ffffff;
 inline constexpr QRgb Note = 0xd10b0f13;
 inline constexpr QRgb NoteLine = 0x1affffff;
@@ -55,6 +59,12 @@ inline constexpr int FadeOutMs = 220;
 [[nodiscard]] inline int px(int designPixels)
 {
     return qMax(1, DisplayScale::instance()->scaleHeight(designPixels));
+}
+
+// Where a line of text stands in a rectangle, so that its capitals and figures look centred.
+[[nodiscard]] inline int baseline(const QRect &rect, const QFontMetrics &metrics)
+{
+    return rect.top() + (rect.height() + metrics.capHeight() + 1) / 2;
 }
 
 [[nodiscard]] inline QFont font(int designPixels, QFont::Weight weight = QFont::Normal)

@@ -1,6 +1,7 @@
 // Pictures of the transport controls in any size and colour, from the forms that the resource file holds.
 //
-// The nearest larger form is taken, so that scales 1, 1.5 and 2 show the pixels that were drawn for them. GUI thread.
+// The nearest larger form is taken, so that scales 1, 1.5 and 2 show the pixels that were drawn for them. GUI
+// thread.
 #pragma once
 
 #include <QColor>

@@ -9,6 +9,9 @@
 #include <QDebug>
 #include <QThread>
 
+#include <algorithm>
+#include <mutex>
+
 ThreadWorker::ThreadWorker(int threadCount, QObject *parent)
     : QObject(parent)
     , m_noticeer(new Detail::Noticeer(this))
@@ -48,13 +51,26 @@ quint64 ThreadWorker::addTask(std::function<void()> work, std::function<void()> 
     return id;
 }
 
-// Deleting a running thread would end the process. What it uses is its own, and it goes once its task ends.
+// Deleting a running thread would end the process. What it uses is its own, and it goes when its task has
+// ended and the next one is left behind.
 void ThreadWorker::leaveBehind(const PoolThread &pool)
 {
-    connect(pool.thread, &QThread::finished, pool.worker, &QObject::deleteLater);
-    connect(pool.thread, &QThread::finished, pool.thread, &QObject::deleteLater);
-    if (pool.thread->isFinished())
-        pool.thread->deleteLater();
+    struct LeftBehind {
+        std::mutex mutex;
+        std::vector<PoolThread> threads;
+    };
+    static auto *const left = new LeftBehind;
+    std::lock_guard<std::mutex> lock(left->mutex);
+    const auto ended =
+        std::remove_if(left->threads.begin(), left->threads.end(), [](const PoolThread &thread) {
+            if (!thread.thread->wait(0))
+                return false;
+            delete thread.worker;
+            delete thread.thread;
+            return true;
+        });
+    left->threads.erase(ended, left->threads.end());
+    left->threads.push_back(pool);
 }
 
 bool ThreadWorker::stopRequested()

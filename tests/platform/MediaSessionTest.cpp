@@ -88,8 +88,9 @@ protected:
         QDBusPendingCall pending = s_client->asyncCall(message);
         QDBusPendingCallWatcher watcher(pending);
         QSignalSpy finished(&watcher, &QDBusPendingCallWatcher::finished);
-        if (!pending.isFinished())
+        if (!pending.isFinished()) {
             EXPECT_TRUE(finished.wait(5000));
+        }
         return pending.reply();
     }
     QVariant property(const QString &name)

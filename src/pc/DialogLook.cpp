@@ -44,8 +44,8 @@ QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0px; }
 QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }
 )";
 
-// The marks of a check box are pictures, stretched because a plain image never grows with its box; without the resource
-// file the style's own marks have to do.
+// The marks of a check box are pictures, stretched because a plain image never grows with its box; without
+// the resource file the style's own marks have to do.
 constexpr char CheckSheet[] = R"(
 QCheckBox::indicator { width: 16px; height: 16px;
     border-image: url(":/Resources/origin/check_off@2x.png") 0 0 0 0 stretch stretch; }

@@ -9,6 +9,9 @@ namespace {
 // Subtitles made of pictures.
 constexpr const char *bitmapCodecs[] = {"hdmv_pgs_subtitle", "dvd_subtitle", "dvb_subtitle", "xsub"};
 
+// Null packets of a transport stream, which the demuxer of Blu-rays takes for a track.
+constexpr std::int64_t paddingPid = 0x1FFF;
+
 // Never cuts a character of UTF-8 in two.
 template<std::size_t Size>
 void copyText(char (&target)[Size], const std::string &text)
@@ -64,6 +67,8 @@ TrackList TrackList::read(const MpvValue &trackList)
 {
     TrackList tracks;
     for (const MpvValue &track : trackList.list()) {
+        if (track.at("src-id").integer() == paddingPid)
+            continue;
         const std::string &type = track.at("type").text();
         const bool selected = track.at("selected").flag() && track.at("main-selection").integer(0) == 0;
         if (type == "audio") {

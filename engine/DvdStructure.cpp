@@ -21,6 +21,7 @@ constexpr std::size_t ProgramEntrySize = 8;
 constexpr std::size_t CellSize = 24;
 constexpr int MaxTitles = 99;
 constexpr int MaxChapters = 999;
+constexpr int LongestMs = 1000 * 3600 * 99;
 
 // Offset of a table whose sector number stands at a place; 0 when it is not inside the file.
 std::size_t tableAt(const BigEndianReader &reader, std::size_t pointer)
@@ -131,7 +132,8 @@ bool DvdStructure::readTitle(const Bytes &setInfo, const TitleEntry &entry, DvdT
             programs + reader.number(programs + TableHeader + (chain - 1) * ProgramEntrySize + 4, 4);
         if (!reader.has(program, 0xEC))
             continue;
-        title.durationMs += readTime(reader, program + 4);
+        // A thousand chains of broken lengths would run over.
+        title.durationMs = std::min(title.durationMs + readTime(reader, program + 4), LongestMs);
         readCells(reader, program, title);
     }
     return !seen.empty();

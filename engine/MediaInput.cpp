@@ -10,6 +10,8 @@ constexpr int IoBufferSize = 64 * 1024;
 constexpr std::int64_t ProbeBytes = 5 * 1024 * 1024;
 constexpr std::int64_t AnalyzeTime = 3 * AV_TIME_BASE;
 constexpr int ErrorsInARow = 200;
+// Nothing lasts thirty years: such a time stamp is broken, and sums with it would run over.
+constexpr std::int64_t FarthestTime = std::int64_t(1000000000) * AV_TIME_BASE;
 
 int refuseOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **)
 {
@@ -121,14 +123,15 @@ int MediaInput::audioStream() const
 
 double MediaInput::duration() const
 {
-    if (!m_context || m_context->duration == AV_NOPTS_VALUE || m_context->duration <= 0)
+    if (!m_context || m_context->duration <= 0 || m_context->duration > FarthestTime)
         return 0.0;
     return double(m_context->duration) / AV_TIME_BASE;
 }
 
 std::int64_t MediaInput::startTime() const
 {
-    return m_context && m_context->start_time != AV_NOPTS_VALUE ? m_context->start_time : 0;
+    const std::int64_t start = m_context ? m_context->start_time : AV_NOPTS_VALUE;
+    return start > -FarthestTime && start < FarthestTime ? start : 0;
 }
 
 void MediaInput::selectOnly(int stream)

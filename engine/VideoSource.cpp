@@ -10,6 +10,8 @@
 namespace {
 
 // Two time stamps of one moment may differ by the rounding of their units.
+// Positions are told in milliseconds of 31 bits.
+constexpr double FarthestSeconds = 2.0e6;
 constexpr double SameMoment = 0.0015;
 constexpr double StepsBack[] = {0.0, 1.0, 3.0, 10.0, 30.0, 1e9};
 
@@ -132,7 +134,7 @@ AvFrame VideoSource::frameAt(double seconds, bool exact)
 
 bool VideoSource::grab(double seconds, bool exact, int width, int height, Picture &picture)
 {
-    seconds = std::max(0.0, seconds);
+    seconds = std::clamp(seconds, 0.0, FarthestSeconds);
     AvFrame frame = frameAt(seconds, exact);
     // Streams that refresh bit by bit mark no frame as a key frame.
     if (!frame && !exact && !m_deadline.isOver())
@@ -144,6 +146,7 @@ bool VideoSource::grab(double seconds, bool exact, int width, int height, Pictur
     if (!PictureScaler::scale(*frame, aspect, PictureScaler::quarterTurns(*stream), width, height, picture))
         return false;
     const double time = m_title ? seconds : m_decoder->secondsOf(*frame);
-    picture.positionMs = int(std::lround((std::isnan(time) ? seconds : std::max(0.0, time)) * 1000.0));
+    const double shown = std::isnan(time) ? seconds : std::clamp(time, 0.0, FarthestSeconds);
+    picture.positionMs = int(std::lround(shown * 1000.0));
     return true;
 }

@@ -64,13 +64,13 @@ SeekTrack NormalProgressBar::track() const
 void NormalProgressBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    SeekTrack::Look look;
-    look.seconds = sliderPosition();
-    look.hoverX = isEnabled() && maximum() > 0 ? m_hoverX : -1;
-    look.heat = m_heat.currentValue().toDouble();
-    look.enabled = isEnabled();
-    look.focus = FocusRing::isOn(this);
-    track().paint(painter, look);
+    SeekTrack::State state;
+    state.seconds = sliderPosition();
+    state.hoverX = isEnabled() && maximum() > 0 ? m_hoverX : -1;
+    state.heat = m_heat.currentValue().toDouble();
+    state.enabled = isEnabled();
+    state.focus = FocusRing::isOn(this);
+    track().paint(painter, state);
 }
 
 void NormalProgressBar::hover(int x)

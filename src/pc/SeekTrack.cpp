@@ -29,7 +29,7 @@ QRectF SeekTrack::groove() const
     // On whole pixels, so that the thin line is sharp.
     const int inset = qRound(kInset * ratio);
     const int height = qMax(2, qRound(kThin * ratio));
-    return {double(bounds.left() + inset), double(bounds.top() + (bounds.height() - height) / 2),
+    return {double(bounds.left() + inset), double(bounds.top()) + qFloor((bounds.height() - height) / 2.0),
             double(qMax(0, bounds.width() - 2 * inset)), double(height)};
 }
 
@@ -69,42 +69,42 @@ QVector<QRectF> SeekTrack::segments() const
     return result;
 }
 
-void SeekTrack::paint(QPainter &painter, const Look &look) const
+void SeekTrack::paint(QPainter &painter, const State &state) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const double position = xOf(look.seconds);
-    const double played = look.enabled ? position : groove().left();
+    const double position = xOf(state.seconds);
+    const double played = state.enabled ? position : groove().left();
     for (const QRectF &segment : segments()) {
         const bool hovered =
-            look.hoverX >= 0 && look.hoverX >= segment.left() && look.hoverX < segment.right();
-        const double heat = look.enabled ? (hovered ? look.heat : look.heat * 0.35) : 0.0;
+            state.hoverX >= 0 && state.hoverX >= segment.left() && state.hoverX < segment.right();
+        const double heat = state.enabled ? (hovered ? state.heat : state.heat * 0.35) : 0.0;
         const QRectF body = thickened(segment, segment.height() + heat * (kThick - kThin) * ratio);
         QPainterPath shape;
         shape.addRoundedRect(body, body.height() / 2, body.height() / 2);
         painter.save();
         painter.setClipPath(shape);
-        painter.fillRect(body, ::Look::color(look.enabled ? ::Look::Track : ::Look::TrackOff));
+        painter.fillRect(body, Look::color(state.enabled ? Look::Track : Look::TrackOff));
         // The way to where a click would lead.
-        if (look.enabled && look.hoverX > played)
-            painter.fillRect(QRectF(played, body.top(), look.hoverX - played, body.height()),
-                             ::Look::color(::Look::Track));
+        if (state.enabled && state.hoverX > played)
+            painter.fillRect(QRectF(played, body.top(), state.hoverX - played, body.height()),
+                             Look::color(Look::Track));
         if (played > body.left())
             painter.fillRect(QRectF(body.left(), body.top(), played - body.left(), body.height()),
-                             ::Look::color(look.heat > 0.5 ? ::Look::AccentHover : ::Look::Accent));
+                             Look::color(state.heat > 0.5 ? Look::AccentHover : Look::Accent));
         painter.restore();
     }
-    if (!look.enabled)
+    if (!state.enabled)
         return;
     const QPointF centre(position, groove().center().y());
-    const double radius = (kKnob + look.heat * (kHotKnob - kKnob)) * ratio;
+    const double radius = (kKnob + state.heat * (kHotKnob - kKnob)) * ratio;
     painter.setBrush(QColor(0, 0, 0, 70));
     painter.drawEllipse(centre + QPointF(0, ratio), radius + ratio, radius + ratio);
-    painter.setBrush(::Look::color(::Look::ControlBright));
+    painter.setBrush(Look::color(Look::ControlBright));
     painter.drawEllipse(centre, radius, radius);
-    if (look.focus) {
+    if (state.focus) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(::Look::color(::Look::AccentHover), kRing * ratio));
+        painter.setPen(QPen(Look::color(Look::AccentHover), kRing * ratio));
         painter.drawEllipse(centre, radius + kRing * ratio, radius + kRing * ratio);
     }
 }

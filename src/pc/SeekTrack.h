@@ -15,7 +15,7 @@ struct SeekTrack {
     int totalSeconds{0};
     QVector<int> chapters; // starts, in seconds and ascending
 
-    struct Look {
+    struct State {
         int seconds{0};
         int hoverX{-1};   // below 0: the pointer is elsewhere
         double heat{0.0}; // 0 at rest to 1 under the pointer or in a drag
@@ -29,5 +29,5 @@ struct SeekTrack {
     // The groove cut at the chapters; one piece without any.
     [[nodiscard]] QVector<QRectF> segments() const;
 
-    void paint(QPainter &painter, const Look &look) const;
+    void paint(QPainter &painter, const State &state) const;
 };

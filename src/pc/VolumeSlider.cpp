@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QWheelEvent>
+#include <QtMath>
 
 namespace {
 
@@ -49,8 +50,8 @@ QRectF VolumeSlider::groove() const
 {
     const int height = Look::px(kGroove);
     const int inset = Look::px(kInset);
-    return {double(inset), double((this->height() - height) / 2), double(qMax(0, width() - 2 * inset)),
-            double(height)};
+    return {double(inset), double(qFloor((this->height() - height) / 2.0)),
+            double(qMax(0, width() - 2 * inset)), double(height)};
 }
 
 int VolumeSlider::valueAt(int x) const

@@ -19,12 +19,12 @@ SeekTrack trackOf(int total, QVector<int> chapters = {}, double ratio = 1.0)
     return track;
 }
 
-QImage picture(const SeekTrack &track, const SeekTrack::Look &look)
+QImage picture(const SeekTrack &track, const SeekTrack::State &state)
 {
     QImage image(track.bounds.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::black);
     QPainter painter(&image);
-    track.paint(painter, look);
+    track.paint(painter, state);
     return image;
 }
 
@@ -80,9 +80,9 @@ TEST(SeekTrack, ChaptersOutsideTheSourceOrTooCloseAreNoCuts)
 TEST(SeekTrack, ThePlayedPartIsInTheAccentAndTheRestIsNot)
 {
     const SeekTrack track = trackOf(1000);
-    SeekTrack::Look look;
-    look.seconds = 500;
-    const QImage image = picture(track, look);
+    SeekTrack::State state;
+    state.seconds = 500;
+    const QImage image = picture(track, state);
     const int y = qRound(track.groove().center().y());
     EXPECT_EQ(image.pixel(qRound(track.xOf(200)), y), Look::Accent);
     const QRgb rest = image.pixel(qRound(track.xOf(800)), y);
@@ -93,10 +93,10 @@ TEST(SeekTrack, ThePlayedPartIsInTheAccentAndTheRestIsNot)
 TEST(SeekTrack, ADisabledSliderHasNoKnobAndNoProgress)
 {
     const SeekTrack track = trackOf(1000);
-    SeekTrack::Look look;
-    look.seconds = 500;
-    look.enabled = false;
-    const QImage image = picture(track, look);
+    SeekTrack::State state;
+    state.seconds = 500;
+    state.enabled = false;
+    const QImage image = picture(track, state);
     const int y = qRound(track.groove().center().y());
     EXPECT_EQ(image.pixel(qRound(track.xOf(200)), y), image.pixel(qRound(track.xOf(800)), y));
     EXPECT_NE(image.pixel(qRound(track.xOf(500)), y), Look::ControlBright);

@@ -1,7 +1,7 @@
 #include "NormalLoadingDlg.h"
 
-#include "ui/AnimationWaittingBar.h"
 #include "platform/Compositing.h"
+#include "ui/AnimationWaittingBar.h"
 #include "ui/LookTokens.h"
 
 #include <QLabel>

@@ -8,8 +8,8 @@ namespace Compositing {
 
 bool isActive()
 {
-    // False under the basic and classic themes of the oldest systems: there a translucent window over a hardware
-    // surface flickers.
+    // False under the basic and classic themes of the oldest systems: there a translucent window over a
+    // hardware surface flickers.
     BOOL enabled = FALSE;
     return SUCCEEDED(DwmIsCompositionEnabled(&enabled)) && enabled;
 }

@@ -1,7 +1,7 @@
 // What plays now, told to the desktop, and what the desktop asks for: media keys, the panel's controls, a
 // phone.
 //
-// On Linux this is the MPRIS 2 interface on the session bus (specifications.freedesktop.org/mpris-spec);
+// On Linux this is the MPRIS 2 interface on the session bus (D-Bus names org.mpris.MediaPlayer2);
 // elsewhere nothing listens and every setter is quiet. The object lives on the GUI thread; no call waits for
 // the bus.
 #pragma once

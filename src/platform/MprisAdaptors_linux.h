@@ -1,4 +1,4 @@
-// The two bus interfaces of MediaSession on Linux, as specifications.freedesktop.org/mpris-spec gives them.
+// The two bus interfaces of MediaSession on Linux: org.mpris.MediaPlayer2 and its Player.
 //
 // Both are children of the bus object and read everything from the session; times on the bus are
 // microseconds.

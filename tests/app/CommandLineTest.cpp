@@ -25,7 +25,7 @@ TEST(CommandLine, EachMaintenanceArgumentIsMatchedWhole)
         {{"/full_uninstall", "/uninstall"}, CommandLine::Maintenance::Uninstall},
         {{"/INSTALL"}, CommandLine::Maintenance::None},
         {{"/install2"}, CommandLine::Maintenance::None},
-        {{"/home/install"}, CommandLine::Maintenance::None},
+        {{"/media/install"}, CommandLine::Maintenance::None},
         {{}, CommandLine::Maintenance::None},
     };
     for (const auto &row : rows)

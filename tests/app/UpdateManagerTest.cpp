@@ -12,7 +12,7 @@ class UpdateManagerTest : public testing::Test {
 protected:
     UpdateManager manager()
     {
-        return {"/opt/player/Update.exe", "/home/u/update_config.xml",
+        return {"/opt/player/Update.exe", "/srv/u/update_config.xml",
                 [this](const QString &program, const QStringList &arguments) {
                     m_started << program << arguments;
                     return m_startWorks;
@@ -28,7 +28,7 @@ protected:
 TEST_F(UpdateManagerTest, StartsTheUpdaterWithTheQuotedConfiguration)
 {
     EXPECT_TRUE(manager().check(UpdateManager::Flag::Auto));
-    EXPECT_EQ(m_started, QStringList({"/opt/player/Update.exe", "\"/home/u/update_config.xml\""}));
+    EXPECT_EQ(m_started, QStringList({"/opt/player/Update.exe", "\"/srv/u/update_config.xml\""}));
     EXPECT_EQ(TestLog::infoLines(),
               QStringList({"[Web service] update flag: Auto", "[Web service] start update: Success"}));
 }

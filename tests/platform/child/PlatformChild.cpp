@@ -1,5 +1,5 @@
-// A program that asks for the screen to stay on before it has an application object, as the player does, and then runs
-// until its standard input ends.
+// A program that asks for the screen to stay on before it has an application object, as the player does, and
+// then runs until its standard input ends.
 #include "platform/Pointer.h"
 #include "platform/ScreenSaver.h"
 

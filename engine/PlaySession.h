@@ -98,7 +98,7 @@ private:
     void notify(std::function<void(libvp::IVDPlayCallback &)> notification);
     void edit(const std::function<void(PlayFacts &)> &change);
 
-    // From the request to the first frame.
+    // From the request to the first frame (PlaySessionStart.cpp).
     void lookAtSource();
     void load(SourcePlan plan);
     void loadUrl();
@@ -109,6 +109,7 @@ private:
     void fail(libvp::VD_PlayError error);
     void announceFailure(vdFileInfo info, libvp::VD_PlayError error);
     void fileEnded(const MpvEvent &event);
+    void playFromTheBeginning();
 
     // From the last frame to silence.
     void finish(Outcome outcome);
@@ -116,7 +117,6 @@ private:
     void storeResumeChoice();
     void close();
     void checkEnd();
-    void playFromTheBeginning();
 
     // What libmpv tells (PlaySessionProperties.cpp).
     void onTimePos(const MpvValue &value);

@@ -37,7 +37,8 @@ public:
     virtual int reserved6() { return 0; }
 
     // 7. False when the name is unknown; the same for 8 and 10. "videoscreen.limitedrange": output range 16
-    // to 235; "audiooutput.passthrough".
+    // to 235; "audiooutput.passthrough"; "subtitles.autoload": opens the subtitle files beside a source, off
+    // at first.
     virtual bool setBoolProperty(const char *name, bool value) = 0;
 
     // 8. "videoscreen.stereoscopicmode": 0 auto, 1 red and cyan, 2 checkerboard, 3 rows, 4 frame packing, 9

@@ -197,13 +197,19 @@ TEST_F(NormalMainWindowTest, ARequestThatWaitsForAFailingEngineEndsOnTheStartVie
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_boxes == 1 && !m_window->isPlayViewShown(); }, 10000));
 }
 
-TEST_F(NormalMainWindowTest, ClosingDuringAnOpenEndsIt)
+TEST_F(NormalMainWindowTest, ClosingDuringAnOpenClosesTheSourceAndWaitsForTheWorker)
 {
     open();
     fakeEngine().hold("IVDPlay::open");
     m_window->slot_playSource(makeFile("a.mkv"));
     ASSERT_TRUE(QTest::qWaitFor([] { return fakeEngine().waitHeld("IVDPlay::open", 10); }, 10000));
+    // The open returns once the engine has been told to close, as a disc that is given up does.
+    std::thread engine([] {
+        (void)fakeEngine().waitCall("IVDPlay::close");
+        fakeEngine().release("IVDPlay::open");
+    });
     m_window->close();
+    engine.join();
     EXPECT_FALSE(m_window->isVisible());
     EXPECT_FALSE(m_control->isOpening());
 }
@@ -286,6 +292,9 @@ TEST_F(NormalMainWindowTest, ADroppedFileIsPlayed)
     open();
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(film)});
+    QDragEnterEvent enter(QPoint(10, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(10, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &drop);
     EXPECT_TRUE(drop.isAccepted());

@@ -6,9 +6,11 @@
 #include "support/FakeEngineLoader.h"
 #include "support/TestLog.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -16,6 +18,10 @@ class WindowFixture : public testing::Test {
 protected:
     WindowFixture()
     {
+        // The window of the test before has ended the application; a loop that has run to its end takes that
+        // back.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCoreApplication::exec();
         fakeEngine().reset();
         fakeEngine().setAutomatic(true);
         QPlayer::setLoaderFactory(fakeEngineLoader);

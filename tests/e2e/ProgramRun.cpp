@@ -1,5 +1,7 @@
 #include "ProgramRun.h"
 
+#include "ProgramPath.h"
+
 #include <QColor>
 #include <QDeadlineTimer>
 #include <QDir>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QRgb>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>

@@ -1,5 +1,7 @@
 #include "ProgramRun.h"
 
+#include "ProgramPath.h"
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
@@ -37,9 +39,9 @@ protected:
         const QFileInfo program(QStringLiteral(QUORIN_PROGRAM));
         const QStringList names{program.fileName(), "libOrbix.so", "quorin6.rcc"};
         for (const QString &name : names) {
-            if (name != missing)
-                EXPECT_TRUE(QFile::copy(program.dir().filePath(name), target + "/" + name))
-                    << qPrintable(name);
+            if (name == missing)
+                continue;
+            EXPECT_TRUE(QFile::copy(program.dir().filePath(name), target + "/" + name)) << qPrintable(name);
         }
         return target + "/" + program.fileName();
     }

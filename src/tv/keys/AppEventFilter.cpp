@@ -39,6 +39,8 @@ AppEventFilter::AppEventFilter(MapReader reader, QObject *parent)
     , m_reader(std::move(reader))
 {
     qRegisterMetaType<KeyOperateType>("KeyOperateType");
+    // A coarse timer may come early by a twentieth.
+    m_stopTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_stopTimer, &QTimer::timeout, this, &AppEventFilter::SLOT_timeOut);
     SLOT_TvUpdateKeyMap();
     SLOT_PcUpdateKeyMap();

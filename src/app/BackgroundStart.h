@@ -27,8 +27,7 @@ public:
     // The steps on a thread of their own. Once a process.
     void start(BackgroundTasks tasks);
 
-    // True from start() until the last step has ended. While it is, the process must not take down what the
-    // thread may still use: it ends without running the destructors of statics.
+    // True from start() until the last step has ended.
     [[nodiscard]] bool isRunning() const { return m_running; }
 
 private:

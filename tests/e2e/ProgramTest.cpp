@@ -127,6 +127,23 @@ TEST_F(ProgramTest, ClosingTheIdleWindowEndsTheProcessInTime)
     EXPECT_EQ(m_home.processes(), QList<qint64>());
 }
 
+TEST_F(ProgramTest, KeysReachTheSourceInWindowAndInFullScreen)
+{
+    ProgramRun run(m_home, {m_blue});
+    ASSERT_TRUE(m_home.waitForLog("OnPlayBackStarted"));
+    const qulonglong window = Desktop::waitForWindow(run.id(), "blue film.mkv - " + kTitle);
+    ASSERT_NE(window, 0U);
+    Desktop::sendKey(window, "m");
+    EXPECT_TRUE(m_home.waitForLog("OnMuteChanged(true)"));
+    Desktop::sendKey(window, "F11");
+    EXPECT_TRUE(Desktop::waitForMiddleColor(kBlue, kColorTolerance));
+    Desktop::sendKey(window, "space");
+    EXPECT_TRUE(m_home.waitForLog("OnPlayBackPaused"));
+    Desktop::sendKey(window, "ctrl+s");
+    EXPECT_TRUE(m_home.waitForLog("OnPlayBackStopped"));
+    EXPECT_NE(Desktop::waitForWindow(run.id(), kTitle), 0U);
+}
+
 TEST_F(ProgramTest, ATerminationSignalEndsItInOrder)
 {
     ProgramRun run(m_home, {m_blue});

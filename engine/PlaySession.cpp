@@ -191,12 +191,12 @@ void PlaySession::checkEnd()
 {
     if (!m_endReached)
         return;
-    if (m_state == State::Opening && m_startReplies == 0) {
-        if (m_plan.options.count("start") && !m_reloaded) {
-            playFromTheBeginning();
-            return;
-        }
-        fail(VD_PlayError_NoStream);
+    if (m_state == State::Opening) {
+        // What was observed may be of the file before: the answer to a request is not.
+        m_mpv->get("eof-reached", MpvHandle::Format::Flag, expect([this](const MpvEvent &event) {
+                       if (event.value.flag())
+                           endedBeforeStart();
+                   }));
         return;
     }
     if (m_state == State::Playing && !m_speed.isPaused() && !m_speed.isStepping() && !m_seeks.isBusy())

@@ -109,6 +109,7 @@ private:
     void fail(libvp::VD_PlayError error);
     void announceFailure(vdFileInfo info, libvp::VD_PlayError error);
     void fileEnded(const MpvEvent &event);
+    void endedBeforeStart();
     void playFromTheBeginning();
 
     // From the last frame to silence.

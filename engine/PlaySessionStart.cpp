@@ -70,6 +70,8 @@ void PlaySession::takeResumeChoice()
 
 void PlaySession::restarted()
 {
+    if (m_ignoredEnds > 0)
+        return; // of the file before
     if (m_state == State::Opening && m_startReplies == 0 && !m_failed) {
         for (std::size_t row = 0; row < propertyRowCount; ++row) {
             if (!propertyRows[row].atStart)
@@ -210,6 +212,16 @@ void PlaySession::fileEnded(const MpvEvent &event)
         fail(VD_PlayError_UnknownFormat);
     else
         fail(VD_PlayError_NotFound);
+}
+
+void PlaySession::endedBeforeStart()
+{
+    if (m_state != State::Opening || m_failed || m_startReplies > 0 || m_ignoredEnds > 0)
+        return;
+    if (m_plan.options.count("start") && !m_reloaded)
+        playFromTheBeginning();
+    else
+        fail(VD_PlayError_NoStream);
 }
 
 // A stored position lies behind the end: the source has become shorter.

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kSegmentSize = 1;
+constexpr int kTakeOverAttempts = 16;
 // Program path and one file.
 constexpr int kEntriesWithFile = 2;
 
@@ -31,12 +32,15 @@ bool SingleInstance::acquire()
 {
     // Two copies that look after a left-behind segment at once would each take the other for its owner.
     const InstanceLock lock;
-    if (createSegment())
-        return true;
     // Where segments outlive their processes the last one to detach removes it, and a live owner keeps it
-    // from going.
-    if (m_segment.attach())
-        m_segment.detach();
+    // from going. The key follows the file that names it, and a new file may meet the segment of yet another
+    // copy that crashed.
+    for (int attempt = 0; attempt < kTakeOverAttempts; ++attempt) {
+        if (createSegment())
+            return true;
+        if (m_segment.attach())
+            m_segment.detach();
+    }
     return createSegment();
 }
 

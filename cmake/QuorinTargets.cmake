@@ -16,8 +16,10 @@ set(QUORIN_BIN_DIR "${CMAKE_BINARY_DIR}/bin")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Precompiled headers reach the cache only with these allowances.
+    # Precompiled headers reach the cache only with these allowances; without the folder's own name another clone
+    # finds there what this one has built.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE_PROGRAM})
 endif()
 

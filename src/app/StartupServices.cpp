@@ -110,8 +110,8 @@ QStringList StartupServices::createApplication()
     // A native child must not make its ancestors and siblings native: the picture alone has a window of its
     // own.
     QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
-    // No window holds OpenGL children: without this Qt reads the whole OpenGL stack before it shows the first,
-    // which costs a quarter of the start and 50 MB.
+    // No window holds OpenGL children: without this Qt reads the whole OpenGL stack before it shows the
+    // first, which costs a quarter of the start and 50 MB.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     m_application = std::make_unique<SingleApplication>(m_argc, m_argv);
     m_application->setOutsideSourceSink([] {

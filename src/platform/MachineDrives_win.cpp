@@ -1,6 +1,6 @@
 #include "MachineDrives.h"
 
-#include <windows.h>
+#include "QuietErrors_win.h"
 
 namespace {
 
@@ -10,18 +10,6 @@ QString rootOf(QChar letter)
 {
     return QString(letter) + QStringLiteral(":\\");
 }
-
-// No dialog of the system for a drive without a medium.
-class QuietErrors final {
-public:
-    QuietErrors() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &m_before); }
-    ~QuietErrors() { SetThreadErrorMode(m_before, nullptr); }
-    QuietErrors(const QuietErrors &) = delete;
-    QuietErrors &operator=(const QuietErrors &) = delete;
-
-private:
-    DWORD m_before{0};
-};
 
 } // namespace
 

@@ -114,6 +114,44 @@ TEST_F(DiscFolderTest, RecordedDiscIsHandedOverByItsRoot)
     EXPECT_FALSE(IsPlayableDiscFolder(root()));
 }
 
+TEST_F(DiscFolderTest, RecordedDiscWithItsThreeFoldersInTheRootIsPlayable)
+{
+    file("BDAV/info.bdav");
+    for (const char *name : {"CLIPINF", "PLAYLIST"})
+        folder(name);
+    EXPECT_FALSE(IsPlayableDiscFolder(root()));
+    folder("STREAM");
+    EXPECT_TRUE(IsPlayableDiscFolder(m_dir.path()));
+}
+
+TEST_F(DiscFolderTest, InfoFileInThePathItselfHidesTheRecordedFolderBelow)
+{
+    file("info.bdav");
+    file("BDAV/info.bdav");
+    EXPECT_EQ(classify().kind, DiscFolderNone);
+}
+
+TEST_F(DiscFolderTest, RecordedDiscWinsOverADvdBesideIt)
+{
+    file("BDAV/info.bdav");
+    folder("VIDEO_TS");
+    EXPECT_EQ(classify().kind, DiscFolderBluray);
+}
+
+TEST_F(DiscFolderTest, PathWithAndWithoutSlashAreTheSame)
+{
+    folder("VIDEO_TS");
+    EXPECT_EQ(ClassifyDiscFolder(m_dir.path()).discRoot, ClassifyDiscFolder(root()).discRoot);
+    EXPECT_EQ(ClassifyDiscFolder(m_dir.path()).path, root());
+}
+
+TEST_F(DiscFolderTest, VideoFolderThatIsAFileIsNoDisc)
+{
+    file("VIDEO_TS");
+    file("BDMV");
+    EXPECT_EQ(classify().kind, DiscFolderNone);
+}
+
 TEST_F(DiscFolderTest, FolderNamedBdavFallsThroughToTheLaterTests)
 {
     file("BDAV/info.bdav");

@@ -25,6 +25,7 @@
 #include "platform/Pointer.h"
 #include "platform/ScreenSaver.h"
 #include "platform/SystemLanguage.h"
+#include "platform/WindowSystem.h"
 #include "player/QPlayer.h"
 #include "shell/FileAssociation.h"
 #include "tv/TvFileSystemManager.h"
@@ -106,6 +107,10 @@ void StartupServices::writeVersion()
 
 QStringList StartupServices::createApplication()
 {
+    WindowSystem::choose();
+    // Qt makes the windows' class of the one and tells the desktop the other.
+    QCoreApplication::setApplicationName(ApplicationInfoManager::desktopName());
+    QGuiApplication::setDesktopFileName(ApplicationInfoManager::desktopName());
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // A native child must not make its ancestors and siblings native: the picture alone has a window of its
     // own.

@@ -29,6 +29,11 @@ QString ApplicationInfoManager::productName()
     return QStringLiteral("Quorin Player 6");
 }
 
+QString ApplicationInfoManager::desktopName()
+{
+    return QStringLiteral("quorin-player-6");
+}
+
 QString ApplicationInfoManager::makerName()
 {
     return QStringLiteral("Quorin");

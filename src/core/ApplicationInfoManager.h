@@ -19,6 +19,9 @@ public:
 
     // Constants of the product.
     [[nodiscard]] static QString productName();
+    // What a desktop knows the program by: the base name of its desktop entry and icon, the class of its
+    // windows and the name of its media session.
+    [[nodiscard]] static QString desktopName();
     [[nodiscard]] static QString makerName();
     [[nodiscard]] static QString registryHelperName();
     [[nodiscard]] static QString hardwareCheckName();

@@ -1,5 +1,7 @@
 #include "MprisAdaptors_linux.h"
 
+#include "MediaTypes.h"
+
 namespace {
 
 constexpr qint64 UsPerMs = 1000;
@@ -17,9 +19,10 @@ MprisRootAdaptor::MprisRootAdaptor(QObject *busObject, MediaSession *session, QS
 
 QStringList MprisRootAdaptor::mimeTypes() const
 {
-    return {"video/mp4",       "video/x-matroska", "video/webm",     "video/mpeg",  "video/x-msvideo",
-            "video/quicktime", "video/mp2t",       "audio/mpeg",     "audio/flac",  "audio/ogg",
-            "audio/mp4",       "audio/x-wav",      "video/x-ms-wmv", "video/x-flv", "application/x-cd-image"};
+    QStringList types;
+    for (const char *type : kMediaTypes)
+        types << QLatin1String(type);
+    return types;
 }
 
 MprisPlayerAdaptor::MprisPlayerAdaptor(QObject *busObject, MediaSession *session)

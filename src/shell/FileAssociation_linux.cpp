@@ -10,16 +10,16 @@
 
 namespace {
 
-constexpr char kAutoplayEntry[] = "quorin-player-6-autoplay.desktop";
-constexpr char kApplicationEntry[] = "quorin-player-6.desktop";
+constexpr char kAutoplayEnding[] = "-autoplay.desktop";
+constexpr char kApplicationEnding[] = ".desktop";
 
 // What the desktop calls the media that the player handles on arrival.
 constexpr char kDiscTypes[] = "x-content/video-dvd;x-content/video-bluray;x-content/video-vcd;";
 
-QString entryPath(const char *entry)
+QString entryPath(const char *ending)
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-           + QStringLiteral("/applications/") + QLatin1String(entry);
+           + QStringLiteral("/applications/") + ApplicationInfoManager::desktopName() + QLatin1String(ending);
 }
 
 // A desktop entry quotes its command with a backslash before the characters that are special inside quotes.
@@ -31,9 +31,9 @@ QString quoted(QString path)
     return QLatin1Char('"') + path + QLatin1Char('"');
 }
 
-bool removeEntry(const char *entry)
+bool removeEntry(const char *ending)
 {
-    const QString path = entryPath(entry);
+    const QString path = entryPath(ending);
     const bool gone = !QFile::exists(path) || QFile::remove(path);
     qInfo().noquote() << "[File association] remove" << path << (gone ? "success" : "fail");
     return gone;
@@ -44,8 +44,8 @@ bool removeEntry(const char *entry)
 bool FileAssociation::RegisterAutoplay(bool enable)
 {
     if (!enable)
-        return removeEntry(kAutoplayEntry);
-    const QString path = entryPath(kAutoplayEntry);
+        return removeEntry(kAutoplayEnding);
+    const QString path = entryPath(kAutoplayEnding);
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile file(path);
     bool written = file.open(QIODevice::WriteOnly | QIODevice::Text);
@@ -68,5 +68,5 @@ bool FileAssociation::RegisterAutoplay(bool enable)
 
 bool FileAssociation::UnregisterApplication()
 {
-    return removeEntry(kApplicationEntry);
+    return removeEntry(kApplicationEnding);
 }

@@ -10,9 +10,12 @@
 #include <QFileSystemWatcher>
 #include <QImage>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <cstdio>
 
 namespace {
 
@@ -127,6 +130,22 @@ ProgramRun::~ProgramRun()
     m_process.waitForFinished(10000);
 }
 
+QStringList ProgramRun::mappedFiles() const
+{
+    QFile file(QStringLiteral("/proc/%1/maps").arg(id()));
+    QStringList files;
+    if (file.open(QIODevice::ReadOnly)) {
+        const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+        for (const QString &line : lines) {
+            const int from = line.indexOf('/');
+            if (from > 0)
+                files << line.mid(from);
+        }
+    }
+    files.removeDuplicates();
+    return files;
+}
+
 int ProgramRun::waitForEnd(int timeoutMs)
 {
     if (isRunning() && !m_process.waitForFinished(timeoutMs))
@@ -163,6 +182,12 @@ int visibleWindows(qint64 processId, const QString &title)
     return windowsOf(processId, title).size();
 }
 
+QString windowClass(qulonglong window)
+{
+    // WM_CLASS(STRING) = "instance", "class"
+    return output("xprop", {"-id", QString::number(window), "WM_CLASS"}).section('"', 3, 3);
+}
+
 void closeWindow(qulonglong window)
 {
     output("wmctrl", {"-i", "-c", "0x" + QString::number(window, 16)});
@@ -171,6 +196,17 @@ void closeWindow(qulonglong window)
 void sendKey(qulonglong window, const QString &key)
 {
     output("xdotool", {"windowactivate", "--sync", QString::number(window), "key", key});
+}
+
+qulonglong activeWindow()
+{
+    return output("xdotool", {"getactivewindow"}).toULongLong();
+}
+
+QSize screenSize()
+{
+    const QStringList numbers = output("xdotool", {"getdisplaygeometry"}).split(' ');
+    return {numbers.value(0).toInt(), numbers.value(1).toInt()};
 }
 
 bool saveScreen(const QString &path)
@@ -223,21 +259,77 @@ bool waitForMiddleColor(QRgb color, int tolerance, int timeoutMs)
 
 namespace Clips {
 
-QString ofColor(const QString &name, QRgb color, int seconds)
+namespace {
+
+// Made once for all runs: the folder tells what is in a clip, its name is what a test wants it to be.
+QString pathOf(const QString &name, QRgb color, int seconds, const QString &kind)
 {
-    static QTemporaryDir folder;
-    const QString path = folder.filePath(name);
-    if (QFile::exists(path))
-        return path;
-    const QString picture = QStringLiteral("color=c=0x%1:s=640x360:r=25:d=%2")
+    const QDir cache(QStringLiteral(QUORIN_TEST_CACHE));
+    const QString folder =
+        cache.filePath(QStringLiteral("clips/%1-%2-%3").arg(kind, QString::number(color, 16)).arg(seconds));
+    QDir().mkpath(folder);
+    return folder + '/' + name;
+}
+
+QStringList inputs(QRgb color, int seconds, int framesPerSecond)
+{
+    const QString picture = QStringLiteral("color=c=0x%1:s=640x360:r=%2:d=%3")
                                 .arg(QString::number(color & 0xffffffU, 16).rightJustified(6, '0'))
+                                .arg(framesPerSecond)
                                 .arg(seconds);
     const QString tone = QStringLiteral("sine=frequency=440:duration=%1").arg(seconds);
+    return {"-v", "error", "-y", "-f", "lavfi", "-i", picture, "-f", "lavfi", "-i", tone};
+}
+
+// Two tests may make the same clip at once: each writes a file of its own, and the last one's stays.
+QString encoded(const QString &path, const QStringList &arguments)
+{
+    const QTemporaryDir folder;
+    const QString made = QFileInfo(path).path() + '/' + QFileInfo(folder.path()).fileName() + ".mkv";
     QProcess process;
-    process.start("ffmpeg", {"-v",        "error",    "-y",      "-f",   "lavfi", "-i",      picture,
-                             "-f",        "lavfi",    "-i",      tone,   "-c:v",  "libx264", "-preset",
-                             "ultrafast", "-pix_fmt", "yuv420p", "-c:a", "aac",   path});
-    return process.waitForFinished(60000) && process.exitCode() == 0 ? path : QString();
+    process.start("ffmpeg", arguments
+                                + QStringList{"-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt",
+                                              "yuv420p", "-c:a", "aac", made});
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        return {};
+    return ::rename(QFile::encodeName(made).constData(), QFile::encodeName(path).constData()) == 0
+               ? path
+               : QString();
+}
+
+} // namespace
+
+QString ofColor(const QString &name, QRgb color, int seconds)
+{
+    const QString path = pathOf(name, color, seconds, "plain");
+    return QFile::exists(path) ? path : encoded(path, inputs(color, seconds, 25));
+}
+
+QString withChapters(const QString &name, QRgb color, const QList<int> &starts, int seconds)
+{
+    QStringList marks;
+    for (const int start : starts)
+        marks << QString::number(start);
+    const QString path = pathOf(name, color, seconds, "chapters-" + marks.join('-'));
+    if (QFile::exists(path))
+        return path;
+    constexpr int FramesPerSecond = 10;
+    QTemporaryFile list;
+    if (!list.open())
+        return {};
+    list.write(";FFMETADATA1\n");
+    for (int i = 0; i < starts.size(); ++i) {
+        const int end = i + 1 < starts.size() ? starts.at(i + 1) : seconds;
+        list.write(QStringLiteral("[CHAPTER]\nTIMEBASE=1/1\nSTART=%1\nEND=%2\ntitle=%3\n")
+                       .arg(starts.at(i))
+                       .arg(end)
+                       .arg(i + 1)
+                       .toUtf8());
+    }
+    list.close();
+    return encoded(path, inputs(color, seconds, FramesPerSecond)
+                             + QStringList{"-f", "ffmetadata", "-i", list.fileName(), "-map_metadata", "2",
+                                           "-map", "0", "-map", "1", "-g", QString::number(FramesPerSecond)});
 }
 
 } // namespace Clips

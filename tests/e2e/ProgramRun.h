@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QRgb>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -41,6 +42,8 @@ public:
 
     [[nodiscard]] bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
     [[nodiscard]] qint64 id() const { return m_process.processId(); }
+    // The files that its memory shows, programs and libraries among them.
+    [[nodiscard]] QStringList mappedFiles() const;
     // -1 when it did not end in time or crashed.
     [[nodiscard]] int waitForEnd(int timeoutMs = 20000);
 
@@ -53,6 +56,8 @@ namespace Desktop {
 // Waits for a visible window of the process with exactly this title; 0 when none came.
 [[nodiscard]] qulonglong waitForWindow(qint64 processId, const QString &title, int timeoutMs = 20000);
 [[nodiscard]] int visibleWindows(qint64 processId, const QString &title);
+// The class by which a desktop finds the window's program.
+[[nodiscard]] QString windowClass(qulonglong window);
 // Asks the window manager to close it, as its user would.
 void closeWindow(qulonglong window);
 void sendKey(qulonglong window, const QString &key);
@@ -60,6 +65,9 @@ void sendKey(qulonglong window, const QString &key);
 [[nodiscard]] QRgb middleColor();
 // Waits until the middle of the screen shows a colour, each channel within the tolerance.
 [[nodiscard]] bool waitForMiddleColor(QRgb color, int tolerance, int timeoutMs = 20000);
+// The window that has the keyboard.
+[[nodiscard]] qulonglong activeWindow();
+[[nodiscard]] QSize screenSize();
 // A picture of the whole screen.
 [[nodiscard]] bool saveScreen(const QString &path);
 
@@ -69,5 +77,7 @@ namespace Clips {
 
 // A clip of one colour with a tone, made once a program; empty when it can't be made.
 [[nodiscard]] QString ofColor(const QString &name, QRgb color, int seconds);
+// The same with chapters that begin at these seconds, and a keyframe a second.
+[[nodiscard]] QString withChapters(const QString &name, QRgb color, const QList<int> &starts, int seconds);
 
 } // namespace Clips

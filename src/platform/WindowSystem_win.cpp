@@ -1,0 +1,4 @@
+#include "WindowSystem.h"
+
+// There is one only.
+void WindowSystem::choose() {}

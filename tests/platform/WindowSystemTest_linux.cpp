@@ -1,0 +1,53 @@
+#include "platform/WindowSystem.h"
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The variables as they were, again afterwards.
+class KeptVariables {
+public:
+    KeptVariables()
+        : m_platform(qgetenv("QT_QPA_PLATFORM"))
+        , m_display(qgetenv("DISPLAY"))
+    {
+    }
+    ~KeptVariables()
+    {
+        qputenv("QT_QPA_PLATFORM", m_platform);
+        if (m_display.isNull())
+            qunsetenv("DISPLAY");
+        else
+            qputenv("DISPLAY", m_display);
+    }
+    KeptVariables(const KeptVariables &) = delete;
+    KeptVariables &operator=(const KeptVariables &) = delete;
+
+private:
+    QByteArray m_platform;
+    QByteArray m_display;
+};
+
+struct Case {
+    const char *asked;
+    const char *display;
+    const char *chosen;
+};
+
+TEST(WindowSystemTest, WindowsStandOnTheXServerUnlessSomethingElseThanWaylandWasAskedFor)
+{
+    const KeptVariables kept;
+    for (const Case &row :
+         {Case{"", ":1", "xcb"}, Case{"wayland", ":1", "xcb"}, Case{"wayland;xcb", ":1", "xcb"},
+          Case{"wayland-egl", ":1", "xcb"}, Case{"offscreen", ":1", "offscreen"}, Case{"xcb", ":1", "xcb"},
+          Case{"wayland", "", "wayland"}, Case{"", "", ""}}) {
+        qputenv("QT_QPA_PLATFORM", row.asked);
+        qputenv("DISPLAY", row.display);
+        WindowSystem::choose();
+        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), QByteArray(row.chosen)) << row.asked << ' ' << row.display;
+    }
+}
+
+} // namespace

@@ -1,0 +1,283 @@
+#include "Screens.h"
+
+#include "FilmFrame.h"
+#include "TestSettings.h"
+
+#include "app/ModeSelectView.h"
+#include "core/ApplicationInfoManager.h"
+#include "pc/DialogSlider.h"
+#include "pc/IPictureControl.h"
+#include "pc/NormalAboutDLg.h"
+#include "pc/NormalColorAdjustDlg.h"
+#include "pc/NormalLastPositionLabel.h"
+#include "pc/NormalLoadingDlg.h"
+#include "pc/NormalMessageBox.h"
+#include "pc/NormalStartView.h"
+#include "pc/NormalTvshowAutoPlayLabel.h"
+#include "pc/NormalVideoControlDlg.h"
+#include "pc/NormalWaitingDlg.h"
+#include "pc/ThreeDMenu.h"
+#include "tv/TvStartWidget.h"
+#include "ui/AnimateMenu.h"
+#include "ui/DisplayScale.h"
+#include "ui/LookTokens.h"
+#include "ui/StyleLoader.h"
+#include "ui/StyleSheetScaler.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QFrame>
+#include <QHoverEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int kDpi = 96;
+
+class SilentControl final : public IPictureControl {
+public:
+    void setBrightness(float) override {}
+    void setSaturation(float) override {}
+    void setContrast(float) override {}
+    void setZoomAmount(float) override {}
+    void setVerticalShift(float) override {}
+    void setPixelRatio(float) override {}
+    void setCustomView() override {}
+};
+
+class OneEpisode final : public INextEpisodeSource {
+public:
+    void requestNext(const QString &, Answer answer) override
+    {
+        answer({QStringLiteral("/shows/next.mkv"),
+                QStringLiteral("Harbour S1E2: Low Tide at the Northern Pier"),
+                FilmFrame::encoded({216, 324})});
+    }
+};
+
+void applySheet(const char *name)
+{
+    QFile file(QLatin1String(StyleLoader::kCssPrefix) + QLatin1String(name));
+    if (file.open(QIODevice::ReadOnly)) {
+        qApp->setStyleSheet(StyleSheetScaler::scaled(QString::fromUtf8(file.readAll()),
+                                                     DisplayScale::instance()->ratioWidth()));
+    }
+}
+
+void settle(QWidget &widget)
+{
+    widget.show();
+    QApplication::processEvents();
+}
+
+} // namespace
+
+Screens::Screens(QString folder, int scale)
+    : m_folder(std::move(folder))
+    , m_scale(scale)
+{
+    QDir().mkpath(m_folder);
+    ApplicationInfoManager::instance()->setScreenDpi(kDpi * scale);
+}
+
+void Screens::drawAll()
+{
+    applySheet("selectstyle.css");
+    drawStart();
+    applySheet("pcstyle.css");
+    drawMessages();
+    drawPictureDialogs();
+    drawOtherDialogs();
+    drawNotes();
+    drawMenus();
+    drawTv();
+}
+
+void Screens::drawStart()
+{
+    TestSettings settings;
+    ModeSelectView question(*settings);
+    question.adjustSize();
+    settle(question);
+    QHoverEvent enter(QEvent::HoverEnter, QPointF(8, 8), QPointF(-1, -1));
+    QCoreApplication::sendEvent(question.findChild<QFrame *>(QStringLiteral("pcTile")), &enter);
+    question.findChild<QCheckBox *>(QStringLiteral("rememberBox"))->setChecked(true);
+    keepOverFilm(question, QStringLiteral("mode-selection"));
+
+    applySheet("pcstyle.css");
+    NormalStartView view;
+    view.resize(Look::px(1024), Look::px(532));
+    settle(view);
+    keepAlone(view, QStringLiteral("start-view"));
+    view.setDropping(true);
+    keepAlone(view, QStringLiteral("start-view-dropping"));
+}
+
+void Screens::drawMessages()
+{
+    {
+        NormalMessageBox box;
+        box.setText(QStringLiteral("Invalid custom shader, please check and try again."));
+        box.setCheckBoxHidden(true);
+        box.addButton(QStringLiteral("OK"));
+        settle(box);
+        keepOverFilm(box, QStringLiteral("message-note"));
+    }
+    {
+        NormalMessageBox box;
+        box.setHeadText(QStringLiteral("Failed to play back the disc."));
+        box.setText(
+            QStringLiteral("A live Internet is required to play back the disc, please check your network "
+                           "and try again."));
+        box.setCheckBoxHidden(true);
+        box.addButton(QStringLiteral("OK"));
+        settle(box);
+        keepOverFilm(box, QStringLiteral("message-head"));
+    }
+    {
+        NormalMessageBox box;
+        box.setText(
+            QStringLiteral("Failure initializing playback device, please update your video card and sound "
+                           "card drivers. Contact us if that does not fix the problem."));
+        box.setCheckBoxHidden(true);
+        box.addButton(QStringLiteral("Feedback"));
+        box.addButton(QStringLiteral("OK"));
+        settle(box);
+        keepOverFilm(box, QStringLiteral("message-two-buttons"));
+    }
+    {
+        NormalMessageBox box;
+        box.setText(QStringLiteral(
+            "<p style=\"line-height:120%\">The file is unavailable, please make sure the file exists and its "
+            "containing drive is successfully mounted.<br /><br />/media/films/Northern Line (2021).mkv<p>"));
+        box.setCheckBoxHidden(true);
+        box.addButton(QStringLiteral("Delete from Library"));
+        box.addButton(QStringLiteral("Retry"));
+        settle(box);
+        keepOverFilm(box, QStringLiteral("message-question"));
+    }
+    NormalMessageBox box;
+    box.setText(QStringLiteral("Your device does not support hardware decoding for H.265 4K videos, and "
+                               "we've automatically switched to "
+                               "the software decoding mode, which might possibly cause unsmooth playback."));
+    box.addButton(QStringLiteral("OK"));
+    settle(box);
+    box.findChild<QCheckBox *>()->setChecked(true);
+    keepOverFilm(box, QStringLiteral("message-check-box"));
+}
+
+void Screens::drawPictureDialogs()
+{
+    TestSettings settings;
+    SilentControl control;
+    NormalColorAdjustDlg color(*settings, control);
+    color.slider(0)->setValue(62);
+    color.slider(2)->setValue(31);
+    settle(color);
+    keepOverFilm(color, QStringLiteral("colour-dialog"));
+    NormalVideoControlDlg video(*settings, control);
+    video.slider(1)->setValue(240);
+    settle(video);
+    keepOverFilm(video, QStringLiteral("video-dialog"));
+}
+
+void Screens::drawOtherDialogs()
+{
+    NormalLoadingDlg loading;
+    settle(loading);
+    keepOverFilm(loading, QStringLiteral("loading"));
+    NormalWaitingDlg waiting;
+    waiting.setText(QStringLiteral("Submitting your message."));
+    settle(waiting);
+    keepOverFilm(waiting, QStringLiteral("waiting"));
+    NormalAboutDLg about(
+        {ApplicationInfoManager::productName(), QStringLiteral("6.1.0.3"), QDate(2020, 7, 15)});
+    settle(about);
+    keepOverFilm(about, QStringLiteral("about"));
+}
+
+void Screens::drawNotes()
+{
+    QWidget window;
+    window.resize(Look::px(1024), Look::px(576));
+    window.show();
+    NormalLastPositionLabel position([] { return qint64(0); }, [](double) {}, &window);
+    position.setPosition(2530, FilmFrame::encoded({224, 126}));
+    position.resize(position.sizeHint());
+    position.slot_showLabel();
+    position.animate(QStringLiteral("animate"))->setCurrentTime(Look::FadeInMs);
+    settle(position);
+    keepOverFilm(position, QStringLiteral("note-last-position"));
+
+    OneEpisode episodes;
+    NormalTvshowAutoPlayLabel episode(&episodes, &window);
+    episode.setSource(QStringLiteral("/shows/first.mkv"));
+    episode.resize(episode.sizeHint());
+    episode.slot_showLabel();
+    episode.animate(QStringLiteral("animate"))->setCurrentTime(Look::FadeInMs);
+    settle(episode);
+    keepOverFilm(episode, QStringLiteral("note-next-episode"));
+}
+
+void Screens::drawMenus()
+{
+    QWidget window;
+    window.resize(Look::px(800), Look::px(800));
+    window.show();
+    AnimateMenu menu(&window);
+    menu.setOpenGeometry(QRect(QPoint(0, 0), menu.sizeHint()));
+    menu.slideIn();
+    menu.animate(QStringLiteral("animate"))->setCurrentTime(AnimateMenu::OpenMs);
+    QMouseEvent move(QEvent::MouseMove, menu.rowRect(3).center(), Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(&menu, &move);
+    settle(menu);
+    keepOverFilm(menu, QStringLiteral("main-menu"));
+
+    TestSettings settings;
+    ThreeDMenu threeD(*settings);
+    QMenu *popup = threeD.build();
+    settle(*popup);
+    if (!popup->actions().isEmpty())
+        popup->setActiveAction(popup->actions().constFirst());
+    QApplication::processEvents();
+    keepOverFilm(*popup, QStringLiteral("menu-3d"));
+}
+
+void Screens::drawTv()
+{
+    ApplicationInfoManager::instance()->setRunMode(ApplicationInfoManager::TvMode);
+    const QSize screen = DisplayScale::designSize() * m_scale;
+    DisplayScale::instance()->setScreenSize(screen.width(), screen.height());
+    applySheet("tvstyle.css");
+    TvStartWidget start;
+    start.resize(screen);
+    settle(start);
+    keepAlone(start, QStringLiteral("tv-start"));
+    ApplicationInfoManager::instance()->setRunMode(ApplicationInfoManager::PcMode);
+}
+
+void Screens::keepOverFilm(QWidget &widget, const QString &name)
+{
+    const int around = Look::px(32);
+    const QSize size = widget.size() + QSize(2 * around, 2 * around);
+    QImage image = FilmFrame::make(size.expandedTo(QSize(Look::px(640), Look::px(360))));
+    QPainter painter(&image);
+    const QPoint place = image.rect().center() - widget.rect().center();
+    widget.render(&painter, place, {}, QWidget::DrawChildren);
+    painter.end();
+    keep(image, name);
+}
+
+void Screens::keepAlone(QWidget &widget, const QString &name)
+{
+    keep(widget.grab().toImage(), name);
+}
+
+void Screens::keep(const QImage &image, const QString &name)
+{
+    m_good &= image.save(QStringLiteral("%1/%2@%3x.png").arg(m_folder, name).arg(m_scale));
+}

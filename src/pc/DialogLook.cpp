@@ -10,7 +10,8 @@ namespace DialogLook {
 
 namespace {
 
-// %1 panel, %2 line, %3 text, %4 soft, %5 raised, %6 accent, %7 accent under the pointer, %8 danger, %9 mute.
+// %1 panel, %2 line, %3 text, %4 soft, %5 raised, %6 accent, %7 accent under the pointer, %8 danger, %9 mute,
+// %10 text on the accent.
 // A border keeps its place when it is not shown, so that nothing moves when the focus does.
 constexpr char Sheet[] = R"(
 * { font-family: "Inter", "Segoe UI", "Noto Sans"; }
@@ -22,7 +23,7 @@ QLabel#messageHead { font-size: 15px; font-weight: 600; }
 QLabel#dialogSoft { font-size: 13px; color: %4; }
 QLabel#dialogValue { font-size: 13px; color: %4; }
 QLabel#dialogName { font-size: 20px; font-weight: 600; }
-QTextBrowser { border: 0; padding: 0; selection-background-color: %6; selection-color: #ffffff; }
+QTextBrowser { border: 0; padding: 0; selection-background-color: %6; selection-color: %10; }
 QCheckBox { font-size: 13px; color: %4; spacing: 10px; background: transparent; }
 QCheckBox:hover, QCheckBox:focus { color: %3; }
 QPushButton#windowCloseButton { background: transparent; border: 0; border-radius: 4px; }
@@ -32,7 +33,7 @@ QPushButton#dialogButton { background: %5; color: %3; font-size: 14px; border: 2
 QPushButton#dialogButton:hover { background: %2; }
 QPushButton#dialogButton:pressed { background: %1; }
 QPushButton#dialogButton:focus { border: 2px solid %7; }
-QPushButton#dialogButton:default { background: %6; color: #ffffff; font-weight: 600; }
+QPushButton#dialogButton:default { background: %6; color: %10; font-weight: 600; }
 QPushButton#dialogButton:default:hover { background: %7; }
 QPushButton#dialogButton:default:pressed { background: #1287d3; }
 QPushButton#dialogButton:default:focus { border: 2px solid #6cc6fb; }
@@ -63,9 +64,10 @@ QString name(QRgb value)
 
 QString styleSheet()
 {
-    QString sheet = QString::fromLatin1(Sheet).arg(
-        name(Look::Panel), name(Look::Line), name(Look::Text), name(Look::Soft), name(Look::Raised),
-        name(Look::Accent), name(Look::AccentHover), name(Look::Danger), name(Look::Mute));
+    QString sheet = QString::fromLatin1(Sheet).arg(name(Look::Panel), name(Look::Line), name(Look::Text),
+                                                   name(Look::Soft), name(Look::Raised), name(Look::Accent),
+                                                   name(Look::AccentHover), name(Look::Danger),
+                                                   name(Look::Mute), name(Look::OnAccent));
     if (QFile::exists(QStringLiteral(":/Resources/origin/check_off@2x.png")))
         sheet += QLatin1String(CheckSheet);
     return StyleSheetScaler::scaled(sheet, DisplayScale::instance()->ratioWidth());

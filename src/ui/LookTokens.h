@@ -25,6 +25,8 @@ inline constexpr QRgb Mute = 0xff66788a;
 
 inline constexpr QRgb Accent = 0xff179cf1;
 inline constexpr QRgb AccentHover = 0xff3bb0fa;
+// White on the accent is too faint to read; the deep ground is not.
+inline constexpr QRgb OnAccent = 0xff0b0f13;
 inline constexpr QRgb Danger = 0xffe5484d;
 // What goes beyond the normal range, as a volume above 100 percent.
 inline constexpr QRgb Beyond = 0xfff2b84b;

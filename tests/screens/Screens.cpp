@@ -27,16 +27,19 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFrame>
 #include <QHoverEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 
 namespace {
 
 constexpr int kDpi = 96;
+constexpr int kMovingMs = 700;
 
 class SilentControl final : public IPictureControl {
 public:
@@ -72,6 +75,15 @@ void settle(QWidget &widget)
 {
     widget.show();
     QApplication::processEvents();
+}
+
+// What moves while it waits is drawn in the middle of its way.
+void settleMoving(QWidget &widget)
+{
+    settle(widget);
+    QEventLoop loop;
+    QTimer::singleShot(kMovingMs, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 } // namespace
@@ -188,11 +200,11 @@ void Screens::drawPictureDialogs()
 void Screens::drawOtherDialogs()
 {
     NormalLoadingDlg loading;
-    settle(loading);
+    settleMoving(loading);
     keepOverFilm(loading, QStringLiteral("loading"));
     NormalWaitingDlg waiting;
     waiting.setText(QStringLiteral("Submitting your message."));
-    settle(waiting);
+    settleMoving(waiting);
     keepOverFilm(waiting, QStringLiteral("waiting"));
     NormalAboutDLg about(
         {ApplicationInfoManager::productName(), QStringLiteral("6.1.0.3"), QDate(2020, 7, 15)});
@@ -241,10 +253,17 @@ void Screens::drawMenus()
     ThreeDMenu threeD(*settings);
     QMenu *popup = threeD.build();
     settle(*popup);
-    if (!popup->actions().isEmpty())
-        popup->setActiveAction(popup->actions().constFirst());
+    for (QAction *action : popup->actions()) {
+        if (action->menu() != nullptr)
+            popup->setActiveAction(action);
+    }
     QApplication::processEvents();
     keepOverFilm(*popup, QStringLiteral("menu-3d"));
+    if (QMenu *formats = popup->activeAction() != nullptr ? popup->activeAction()->menu() : nullptr) {
+        settle(*formats);
+        keepOverFilm(*formats, QStringLiteral("menu-3d-formats"));
+    }
+    popup->close();
 }
 
 void Screens::drawTv()

@@ -15,4 +15,7 @@ namespace PlatformNames {
 // Where a marker file named by its place on Windows ("D:/debugHotKey.txt") is looked for on this machine.
 [[nodiscard]] QString markerFile(const QString &drivePath, const QString &dataFolder);
 
+// How this system's own file systems compare names.
+[[nodiscard]] Qt::CaseSensitivity pathCase();
+
 } // namespace PlatformNames

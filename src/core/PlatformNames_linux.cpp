@@ -16,3 +16,8 @@ QString PlatformNames::markerFile(const QString &drivePath, const QString &dataF
 {
     return dataFolder + QLatin1Char('/') + QFileInfo(drivePath).fileName();
 }
+
+Qt::CaseSensitivity PlatformNames::pathCase()
+{
+    return Qt::CaseSensitive;
+}

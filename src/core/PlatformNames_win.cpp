@@ -14,3 +14,8 @@ QString PlatformNames::markerFile(const QString &drivePath, const QString &)
 {
     return drivePath;
 }
+
+Qt::CaseSensitivity PlatformNames::pathCase()
+{
+    return Qt::CaseInsensitive;
+}

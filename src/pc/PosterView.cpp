@@ -1,0 +1,218 @@
+#include "PosterView.h"
+
+#include "core/ThreadWorker.h"
+#include "ui/LookTokens.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVariantAnimation>
+
+namespace {
+
+constexpr int kFadeMs = 400;
+constexpr int kStopMs = 200;
+// No screen shows more.
+constexpr QSize kLargest{3840, 2160};
+// Soft text stays readable over white.
+constexpr double kShade = 0.82;
+
+QImage decoded(QIODevice *device)
+{
+    QImageReader reader(device);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.width() > kLargest.width() || size.height() > kLargest.height())
+        reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio));
+    return reader.read();
+}
+
+QImage decodedFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? decoded(&file) : QImage();
+}
+
+QImage decodedData(const QVariant &data)
+{
+    if (data.userType() != QMetaType::QByteArray)
+        return decodedFile(data.toString());
+    QByteArray bytes = data.toByteArray();
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::ReadOnly) ? decoded(&buffer) : QImage();
+}
+
+QPixmap pictureOf(const QVariant &data)
+{
+    if (data.userType() == QMetaType::QPixmap)
+        return data.value<QPixmap>();
+    if (data.userType() == QMetaType::QImage)
+        return QPixmap::fromImage(data.value<QImage>());
+    return {};
+}
+
+bool isToBeRead(const QVariant &data)
+{
+    return (data.userType() == QMetaType::QString || data.userType() == QMetaType::QByteArray)
+           && !data.toByteArray().isEmpty();
+}
+
+} // namespace
+
+PosterView::PosterView(QWidget *parent)
+    : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setPoster({}, false);
+}
+
+PosterView::~PosterView()
+{
+    deleteAll();
+    if (m_worker)
+        m_worker->stop(kStopMs);
+}
+
+void PosterView::setPoster(const QVariant &source, bool animate)
+{
+    const QPixmap ready = pictureOf(source);
+    if (!ready.isNull()) {
+        ++m_latest;
+        present(ready, false, animate);
+        return;
+    }
+    if (!isToBeRead(source) && m_isDefault && !m_picture.isNull()) {
+        ++m_latest;
+        return;
+    }
+    load(source, animate);
+}
+
+void PosterView::load(const QVariant &source, bool animate)
+{
+    struct Read {
+        QImage image;
+        bool isDefault{false};
+    };
+    const quint64 number = ++m_latest;
+    if (!m_worker)
+        m_worker = std::make_unique<ThreadWorker>();
+    const auto read = std::make_shared<Read>();
+    m_worker->addTask(
+        [read, source] {
+            if (isToBeRead(source))
+                read->image = decodedData(source);
+            if (!read->image.isNull())
+                return;
+            if (isToBeRead(source) && source.userType() == QMetaType::QString)
+                qInfo().noquote() << "[Start view] picture can't be read:" << source.toString();
+            read->image = decodedFile(QString::fromLatin1(DefaultPicture));
+            read->isDefault = true;
+        },
+        [this, read, number, animate] {
+            if (number == m_latest)
+                present(QPixmap::fromImage(read->image), read->isDefault, animate);
+        });
+}
+
+void PosterView::present(const QPixmap &picture, bool isDefault, bool animate)
+{
+    m_former = m_picture;
+    m_formerScaled = m_scaled;
+    m_picture = picture;
+    m_scaled = {};
+    m_isDefault = isDefault;
+    const double shade = isDefault ? 0.0 : 1.0;
+    if (animate && isVisible()) {
+        setPosterProgress(0.0);
+        runAnimate(QLatin1String(PosterAnimation), true);
+        if (m_opacityProgress != shade)
+            runAnimate(QLatin1String(OpacityAnimation), !isDefault);
+    } else {
+        stopAll();
+        setPosterProgress(1.0);
+        setOpacityProgress(shade);
+    }
+    update();
+    emit posterChanged();
+}
+
+void PosterView::setPosterProgress(double progress)
+{
+    m_posterProgress = qBound(0.0, progress, 1.0);
+    if (m_posterProgress >= 1.0) {
+        m_former = {};
+        m_formerScaled = {};
+    }
+    update();
+}
+
+void PosterView::setOpacityProgress(double progress)
+{
+    m_opacityProgress = qBound(0.0, progress, 1.0);
+    update();
+}
+
+void PosterView::initAnimate(QString name)
+{
+    const bool isPoster = name == QLatin1String(PosterAnimation);
+    auto animation = QSharedPointer<QVariantAnimation>::create();
+    animation->setDuration(kFadeMs);
+    animation->setEasingCurve(QEasingCurve::InOutCubic);
+    connect(animation.data(), &QVariantAnimation::valueChanged, this,
+            [this, isPoster](const QVariant &value) {
+                if (isPoster)
+                    setPosterProgress(value.toDouble());
+                else
+                    setOpacityProgress(value.toDouble());
+            });
+    setAnimate(name, animation);
+}
+
+void PosterView::startAnimate(QString name, bool forward)
+{
+    auto *animation = qobject_cast<QVariantAnimation *>(animate(name));
+    if (animation == nullptr)
+        return;
+    const bool isPoster = name == QLatin1String(PosterAnimation);
+    animation->stop();
+    animation->setStartValue(isPoster ? m_posterProgress : m_opacityProgress);
+    animation->setEndValue(forward ? 1.0 : 0.0);
+    animation->start();
+}
+
+void PosterView::resizeEvent(QResizeEvent *event)
+{
+    m_scaled = {};
+    m_formerScaled = {};
+    QWidget::resizeEvent(event);
+}
+
+void PosterView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Look::color(Look::Ground));
+    if (m_posterProgress < 1.0)
+        drawCovering(painter, m_former, m_formerScaled);
+    painter.setOpacity(m_posterProgress);
+    drawCovering(painter, m_picture, m_scaled);
+    painter.setOpacity(m_opacityProgress * kShade);
+    if (m_opacityProgress > 0.0)
+        painter.fillRect(event->rect(), Look::color(Look::Deep));
+}
+
+void PosterView::drawCovering(QPainter &painter, const QPixmap &picture, QPixmap &scaled) const
+{
+    if (picture.isNull())
+        return;
+    const qreal ratio = devicePixelRatioF();
+    if (scaled.isNull()) {
+        scaled = picture.scaled(size() * ratio, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        scaled.setDevicePixelRatio(ratio);
+    }
+    const QSize shown = scaled.size() / ratio;
+    painter.drawPixmap((width() - shown.width()) / 2, (height() - shown.height()) / 2, scaled);
+}

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <atomic>
 
@@ -22,6 +23,10 @@ public:
 
     void setSource(Source source) { m_source = source; }
     [[nodiscard]] Source source() const { return m_source; }
+
+    // Counts a use. The records leave the machine only with the user's consent and a configured place for
+    // them; until then they stand in the log.
+    void note(const QString &group, const QString &event, const QString &value);
 
 private:
     std::atomic<Source> m_source{Source::Player};

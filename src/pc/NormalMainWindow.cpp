@@ -1,12 +1,22 @@
 #include "NormalMainWindow.h"
 
+#include "CoverReader.h"
+#include "NormalAudioView.h"
+#include "NormalLastPositionLabel.h"
 #include "NormalMessageBox.h"
 #include "NormalMessageBoxFactory.h"
+#include "NormalOperateBar.h"
 #include "NormalPlayControl.h"
 #include "NormalPlayView.h"
 #include "NormalStartView.h"
 #include "NormalTitleBar.h"
+#include "NormalTopBar.h"
+#include "NormalTvshowAutoPlayLabel.h"
+#include "PcDialogs.h"
 #include "PcKeyActions.h"
+#include "PcMediaSession.h"
+#include "PlayOverlays.h"
+#include "VolumeControl.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
@@ -15,38 +25,37 @@
 #include "keys/AppEventFilter.h"
 #include "library/MediaServerManager.h"
 #include "online/AdvertismentManagerEx.h"
+#include "online/PlayInfoStatisticsHelper.h"
 #include "platform/DriveLetters.h"
 #include "platform/ScreenSaver.h"
+#include "playcontrol/DropReader.h"
 #include "playcontrol/ErrorNote.h"
+#include "playcontrol/MenuCase.h"
 #include "playcontrol/PlayFailure.h"
 #include "playcontrol/ScreenshotWriter.h"
 #include "player/DeferredSetup.h"
 #include "player/workObject.h"
-#include "ui/DisplayScale.h"
+#include "ui/AnimateMenu.h"
 #include "ui/QDraggableNoBordersWnd.h"
 #include "ui/StyleLoader.h"
 #include "ui/VideoSurface.h"
+#include "ui/WindowShadow.h"
 
-#include <QCoreApplication>
-#include <QDragEnterEvent>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QKeyEvent>
-#include <QMimeData>
-#include <QScreen>
+#include <QIcon>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace {
 
 // Design pixels.
-constexpr QSize kDefaultSize{1024, 576};
 constexpr QSize kMinimumSize{480, 270};
 constexpr int k3dAfterMs = 1000;
-constexpr float kFullVolume = 100.0F;
+constexpr char kUserBehaviour[] = "UserBehaviour";
+constexpr char kSubtitleFilter[] = QT_TRANSLATE_NOOP("NormalMainWindow", "Subtitle Files (%1)");
 
 PlaySourcePath sourcePaths()
 {
@@ -56,23 +65,13 @@ PlaySourcePath sourcePaths()
             }};
 }
 
-QStringList droppedPaths(const QMimeData *data)
-{
-    QStringList paths;
-    const QList<QUrl> urls = data->urls();
-    for (const QUrl &url : urls) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    return paths;
-}
-
 } // namespace
 
 NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
     , m_settings(*SettingsManager::instance())
     , m_placement(m_settings)
+    , m_recent(m_settings)
 {
     setObjectName(QStringLiteral("normalMainWindow"));
     setWindowTitle(ApplicationInfoManager::productName());
@@ -82,21 +81,33 @@ NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     makeViews();
+    makeMenu();
     m_setUp = new DeferredSetup(m_playView->surface(), this);
     m_control = new NormalPlayControl(m_settings, *m_setUp, sourcePaths(), this);
+    m_overlays = new PlayOverlays(this, m_stack, nullptr);
+    m_dialogs = new PcDialogs(this);
     m_screenshots = new ScreenshotWriter(this);
+    m_session = new PcMediaSession(*m_overlays->bar()->volumeControl(), this);
+    m_covers = new CoverReader(this);
+    m_drops = new DropReader(DropRule(), this);
     m_worker = std::make_unique<workObject>();
+    m_shadow = new WindowShadow(this);
     m_borders = std::make_unique<QDraggableNoBordersWnd>(this);
     m_borders->setMinimumSize(kMinimumSize);
     connectParts();
+    connectBar();
     connectControl();
+    connectSession();
     retranslate();
+    showRecent();
     restoreWindow(showNow);
     QTimer::singleShot(0, this, &NormalMainWindow::slot_configLater);
 }
 
 NormalMainWindow::~NormalMainWindow()
 {
+    // The focus goes with the children, when there is little left to act on that.
+    disconnect(qApp, nullptr, this, nullptr);
     m_control->shutDown();
 }
 
@@ -106,8 +117,10 @@ void NormalMainWindow::makeViews()
     m_stack = new QStackedWidget(this);
     m_startView = new NormalStartView(m_stack);
     m_playView = new NormalPlayView(m_stack);
-    m_stack->addWidget(m_startView);
-    m_stack->addWidget(m_playView);
+    m_audioView = new NormalAudioView(m_stack);
+    for (QWidget *view : {static_cast<QWidget *>(m_startView), static_cast<QWidget *>(m_playView),
+                          static_cast<QWidget *>(m_audioView)})
+        m_stack->addWidget(view);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -115,60 +128,128 @@ void NormalMainWindow::makeViews()
     layout->addWidget(m_stack, 1);
 }
 
+void NormalMainWindow::makeMenu()
+{
+    m_menu = new AnimateMenu(this);
+    // Above the picture and all that hovers over it; a press on its own button closes it and does not open it
+    // anew.
+    m_menu->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    m_menu->setAttribute(Qt::WA_NoMouseReplay);
+    connect(m_menu, &AnimateMenu::sig_showDialog, this, &NormalMainWindow::openDialog);
+}
+
 void NormalMainWindow::connectParts()
 {
-    connect(m_titleBar, &NormalTitleBar::minClicked, this, &NormalMainWindow::slot_minClicked);
-    connect(m_titleBar, &NormalTitleBar::maxClicked, this, &NormalMainWindow::slot_maxClicked);
-    connect(m_titleBar, &NormalTitleBar::restoreClicked, this, &NormalMainWindow::slot_restoreClicked);
-    connect(m_titleBar, &NormalTitleBar::closeClicked, this, &NormalMainWindow::slot_closeClicked);
+    connectTitleBar(m_titleBar);
+    connectTitleBar(m_overlays->topBar()->titleBar());
     connect(m_startView, &NormalStartView::openMediaClicked, this, &NormalMainWindow::slot_openMedia);
+
+    connect(m_startView, &NormalStartView::recentClicked, this,
+            qOverload<QString>(&NormalMainWindow::slot_playSource));
+    connect(m_startView, &NormalStartView::recentCleared, this, [this] {
+        m_recent.clear();
+        showRecent();
+    });
+    connect(m_drops, &DropReader::decided, this, &NormalMainWindow::takeDrop);
 
     connect(m_setUp, &DeferredSetup::playerMade, this, &NormalMainWindow::onPlayerMade);
     connect(m_setUp, &DeferredSetup::ready, this, &NormalMainWindow::onEngineReady);
     connect(m_setUp, &DeferredSetup::failed, this, &NormalMainWindow::slot_showInitFailDialog);
 
-    connect(this, &NormalMainWindow::sig_resizeRender, m_worker.get(), &workObject::slot_resizeRenderSize);
+    // Called where they are emitted: the worker keeps the last of those that come while the engine is busy.
+    connect(this, &NormalMainWindow::sig_resizeRender, m_worker.get(), &workObject::requestRenderSize,
+            Qt::DirectConnection);
+    connect(this, &NormalMainWindow::sig_seek, m_worker.get(), &workObject::requestSeek,
+            Qt::DirectConnection);
     connect(this, &NormalMainWindow::sig_setup3D, m_worker.get(), &workObject::slot_setup3D);
+    connect(this, &NormalMainWindow::sig_addSubtitle, m_worker.get(), &workObject::slot_addSubtitle);
     connect(m_playView->surface(), &VideoSurface::deviceSizeChanged, this, [this](int width, int height) {
         if (m_player != nullptr)
             emit sig_resizeRender(width, height);
     });
+    connect(m_covers, &CoverReader::ready, this,
+            [this](const QString &, const QImage &cover) { onCover(cover); });
+    connect(m_screenshots, &ScreenshotWriter::failed, this,
+            [this](ScreenshotWriter::Error error, const QString &folder) {
+                NormalMessageBoxFactory::showNote(this, ScreenshotWriter::errorText(error, folder));
+            });
 
     auto *filter = AppEventFilter::instance();
     connect(filter, &AppEventFilter::SIG_PcKeyOperate, this, &NormalMainWindow::slot_hotKey);
     connect(filter, &AppEventFilter::SIG_mouseMove, this, &NormalMainWindow::SLOT_haveMouseMove);
     connect(filter, &AppEventFilter::SIG_mouseStopMove, this, &NormalMainWindow::SLOT_mouseMoveStop);
+    connect(qApp, &QApplication::focusChanged, this, &NormalMainWindow::slot_responseFocusChange);
+}
+
+void NormalMainWindow::connectTitleBar(NormalTitleBar *titleBar)
+{
+    connect(titleBar, &NormalTitleBar::menuClicked, this, &NormalMainWindow::slot_menuClicked);
+    connect(titleBar, &NormalTitleBar::minClicked, this, &NormalMainWindow::slot_minClicked);
+    connect(titleBar, &NormalTitleBar::maxClicked, this, &NormalMainWindow::slot_maxClicked);
+    connect(titleBar, &NormalTitleBar::restoreClicked, this, &NormalMainWindow::slot_restoreClicked);
+    connect(titleBar, &NormalTitleBar::closeClicked, this, &NormalMainWindow::slot_closeClicked);
+}
+
+void NormalMainWindow::connectBar()
+{
+    const NormalOperateBar *bar = m_overlays->bar();
+    connect(bar, &NormalOperateBar::sig_seek, this, &NormalMainWindow::sig_seek);
+    connect(bar, &NormalOperateBar::sig_setup3D, this, &NormalMainWindow::sig_setup3D);
+    connect(bar, &NormalOperateBar::sig_stopClicked, m_control, &NormalPlayControl::slot_stopLater);
+    connect(bar, &NormalOperateBar::sig_fullScreenClicked, this, &NormalMainWindow::slot_fullScreen);
+    connect(bar, &NormalOperateBar::sig_normalScreenClicked, this, &NormalMainWindow::slot_restoreClicked);
+    connect(bar, &NormalOperateBar::sig_playNext, m_control, &NormalPlayControl::playNext);
+    connect(bar, &NormalOperateBar::sig_resize, this, &NormalMainWindow::slot_resizeFromRightBottom);
+    connect(bar, &NormalOperateBar::sig_updateBorder, m_borders.get(),
+            &QDraggableNoBordersWnd::slot_resizeBorder);
+    connect(bar, &NormalOperateBar::sig_message, this,
+            [this](const QString &text) { NormalMessageBoxFactory::showNote(this, text); });
+    connect(bar, &NormalOperateBar::sig_userBehaviour, this, [](const QString &name, const QString &value) {
+        PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
+    });
+    connect(m_overlays, &PlayOverlays::rested, this, [this] { setCursor(Qt::BlankCursor); });
+    connect(m_overlays->lastPosition(), &NormalLastPositionLabel::sig_setupAudioSub, m_control,
+            &NormalPlayControl::slot_setupLastPositionAudioSub);
+    connect(m_overlays->nextEpisode(), &NormalTvshowAutoPlayLabel::sig_playSource, this,
+            qOverload<QString>(&NormalMainWindow::slot_playSource));
 }
 
 void NormalMainWindow::connectControl()
 {
     connect(m_control, &NormalPlayControl::sourceAccepted, this, &NormalMainWindow::showPlayView);
     connect(m_control, &NormalPlayControl::waitingChanged, m_playView, &NormalPlayView::showWaiting);
-    connect(m_control, &NormalPlayControl::sourceOpened, this, [this] { applyAlwaysOnTop(true); });
+    connect(m_control, &NormalPlayControl::sourceOpened, this, &NormalMainWindow::onSourceOpened);
     connect(m_control, &NormalPlayControl::playing, this, [this] {
         m_playView->surface()->setPlaying(true);
+        addDroppedSubtitles();
         QTimer::singleShot(k3dAfterMs, this, &NormalMainWindow::sig_setup3D);
     });
     connect(m_control, &NormalPlayControl::idle, this, [this] { m_playView->surface()->setPlaying(false); });
+    connect(m_control, &NormalPlayControl::seekControlChanged, m_overlays->bar(),
+            &NormalOperateBar::setSeekControl);
+    connect(m_control, &NormalPlayControl::resumeNoteDue, this, &NormalMainWindow::offerLastPosition);
     connect(m_control, &NormalPlayControl::selectViewWanted, this, &NormalMainWindow::slot_backToSelectView);
     connect(m_control, &NormalPlayControl::closeWanted, this, &NormalMainWindow::slot_closeClicked);
-    connect(m_control, &NormalPlayControl::failureToTell, this, &NormalMainWindow::tellFailure);
-    connect(m_control, &NormalPlayControl::noteToTell, this, &NormalMainWindow::tellNote);
+    // A note turns an event loop of its own: not inside the signal of a play that goes on.
+    const auto later = Qt::QueuedConnection;
+    connect(m_control, &NormalPlayControl::failureToTell, this, &NormalMainWindow::tellFailure, later);
+    connect(m_control, &NormalPlayControl::noteToTell, this, &NormalMainWindow::tellNote, later);
+    connect(m_control, &NormalPlayControl::bdavNoteDue, this, &NormalMainWindow::tellBdavNote, later);
+    m_control->setNextEpisode([this] { return m_overlays->nextEpisode()->nextPath(); });
 }
 
-void NormalMainWindow::restoreWindow(bool showNow)
+void NormalMainWindow::connectSession()
 {
-    const auto *scale = DisplayScale::instance();
-    const QSize size(scale->scaleWidth(kDefaultSize.width()), scale->scaleHeight(kDefaultSize.height()));
-    setMinimumSize(scale->scaleWidth(kMinimumSize.width()), scale->scaleHeight(kMinimumSize.height()));
-    m_normalGeometry = m_placement.restored(size, QGuiApplication::primaryScreen()->availableGeometry());
-    setGeometry(m_normalGeometry);
-    if (showNow)
-        show();
-    if (m_placement.startsFullScreen())
-        QTimer::singleShot(0, this, &NormalMainWindow::slot_fullScreen);
-    else if (m_placement.startsMaximized())
-        QTimer::singleShot(0, this, &NormalMainWindow::slot_maxClicked);
+    connect(m_session, &PcMediaSession::raiseWanted, this, &NormalMainWindow::slot_activeWindow);
+    connect(m_session, &PcMediaSession::closeWanted, this, &NormalMainWindow::slot_closeClicked);
+    connect(m_session, &PcMediaSession::stopWanted, m_control, &NormalPlayControl::slot_stopLater);
+    connect(m_session, &PcMediaSession::seekWanted, this, &NormalMainWindow::sig_seek);
+    connect(m_session, &PcMediaSession::openWanted, this,
+            qOverload<QString>(&NormalMainWindow::slot_playSource));
+    connect(m_session, &PcMediaSession::fullScreenWanted, this, [this](bool fullScreen) {
+        if (fullScreen != isFullScreen())
+            slot_fullScreen();
+    });
 }
 
 void NormalMainWindow::applyStartFlags(int flags)
@@ -183,14 +264,26 @@ void NormalMainWindow::applyStartFlags(int flags)
 
 bool NormalMainWindow::isPlayViewShown() const
 {
-    return m_stack->currentWidget() == m_playView;
+    return m_stack->currentWidget() != m_startView;
 }
 
 void NormalMainWindow::retranslate()
 {
     m_titleBar->retranslate();
     m_startView->retranslate();
-    m_titleBar->setText(isPlayViewShown() ? m_control->displayName() : ApplicationInfoManager::productName());
+    m_overlays->retranslate();
+    using Row = AnimateMenu::Row;
+    using Kind = AnimateMenu::Kind;
+    const Row line{Kind::Line, {}, {}, false};
+    const bool playing = isPlayViewShown();
+    m_menu->setRows({{Kind::Dialog, PopDlgTyle::OpenMedia, tr("Open Media..."), true},
+                     line,
+                     {Kind::Dialog, PopDlgTyle::VideoControl, tr("Video Control..."), playing},
+                     {Kind::Dialog, PopDlgTyle::ColorAdjust, tr("Color Adjust..."), playing},
+                     {Kind::Dialog, PopDlgTyle::LoadSubtitle, tr("Load Subtitle..."), playing},
+                     line,
+                     {Kind::Dialog, PopDlgTyle::About, tr("About"), true}});
+    m_titleBar->setText(playing ? m_control->displayName() : ApplicationInfoManager::productName());
 }
 
 // ---- set-up of the engine
@@ -198,13 +291,20 @@ void NormalMainWindow::retranslate()
 void NormalMainWindow::slot_configLater()
 {
     m_setUp->start();
+    m_session->open();
+    auto *statistics = PlayInfoStatisticsHelper::instance();
+    for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})
+        statistics->note(QLatin1String(kUserBehaviour), QLatin1String(event), QStringLiteral("true"));
 }
 
 void NormalMainWindow::onPlayerMade(QPlayer *player)
 {
     m_player = player;
-    m_keyActions = std::make_unique<PcKeyActions>(*player, m_settings);
+    m_keyActions = std::make_unique<PcKeyActions>(*player, *m_overlays->bar()->volumeControl(),
+                                                  [this](int seconds) { emit sig_seek(seconds); });
     m_control->connectPlayer(player);
+    m_overlays->connectPlayer(player);
+    m_session->connectPlayer(player);
     connect(player, &QPlayer::sig_shotScreen, this, &NormalMainWindow::slot_saveScreenShot);
     connect(player, &QPlayer::sig_videoSizeChanged, this, &NormalMainWindow::slot_fitVideoSize);
 }
@@ -212,10 +312,7 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
 void NormalMainWindow::onEngineReady()
 {
     m_isEngineReady = true;
-    const QString key = QLatin1String(SettingsKeys::PC_VolumeCount);
-    const int count = m_settings.contains(key) ? m_settings.value(key).toInt() : int(kFullVolume);
-    m_player->setVolume(float(qBound(0, count, int(kFullVolume))) / kFullVolume);
-    m_player->setMute(m_settings.value(QLatin1String(SettingsKeys::PC_VolumeMute)).toBool());
+    m_overlays->bar()->volumeControl()->restore();
     const QSize size = m_playView->surface()->deviceSize();
     emit sig_resizeRender(size.width(), size.height());
 }
@@ -244,25 +341,74 @@ void NormalMainWindow::slot_playSource(QString strPath, int nTitle)
 void NormalMainWindow::showPlayView(const QString &title)
 {
     applyAlwaysOnTop(true);
-    m_titleBar->setText(title);
     setWindowTitle(QStringLiteral("%1 - %2").arg(title, ApplicationInfoManager::productName()));
+    m_audioView->setName(title);
+    m_audioView->setCover({});
     m_stack->setCurrentWidget(m_playView);
     m_playView->surface()->update();
+    updateTitleBar();
+    m_session->beginSource(title, m_control->currentPath());
+    m_overlays->beginSource(title, m_control->currentPath());
+    retranslate();
+}
+
+void NormalMainWindow::onSourceOpened(bool isVideo)
+{
+    applyAlwaysOnTop(true);
+    m_stack->setCurrentWidget(isVideo ? static_cast<QWidget *>(m_playView) : m_audioView);
+    m_overlays->setStaying(!isVideo);
+    m_recent.add(m_control->displayName(), m_control->currentPath(),
+                 RecentFiles::Type(m_control->sourceKind()));
+    // A second reading of a disc would fight with the first for the laser.
+    if (m_control->sourceKind() == PlaySource::File)
+        m_covers->request(m_control->currentPath());
+}
+
+void NormalMainWindow::onCover(const QImage &cover)
+{
+    m_session->setCover(cover);
+    if (m_stack->currentWidget() != m_audioView)
+        return;
+    m_audioView->setCover(cover);
+    m_overlays->bar()->setMusicPixmap(QPixmap::fromImage(cover));
+}
+
+void NormalMainWindow::showRecent()
+{
+    m_startView->setRecent(m_recent.entries());
+}
+
+void NormalMainWindow::offerLastPosition()
+{
+    m_overlays->lastPosition()->setPosition(m_control->storedSeconds(), m_control->resumeImage());
+    m_overlays->lastPosition()->slot_showLabel();
 }
 
 void NormalMainWindow::slot_backToSelectView()
 {
     unsetCursor();
+    m_covers->forget();
+    m_overlays->endSource();
+    m_dialogs->closeAll();
     m_playView->showWaiting(false);
     m_playView->surface()->setPlaying(false);
+    m_droppedSubtitles.clear();
+    m_control->setWaiting({});
+    showRecent();
     m_stack->setCurrentWidget(m_startView);
     setWindowTitle(ApplicationInfoManager::productName());
-    m_titleBar->setText(ApplicationInfoManager::productName());
+    updateTitleBar();
+    retranslate();
+    if (!m_sizeBeforeFit.isEmpty() && !isFullScreen() && !isMaximized())
+        resize(m_sizeBeforeFit);
+    m_sizeBeforeFit = {};
     applyAlwaysOnTop(false);
 }
 
 void NormalMainWindow::tellFailure(int errCode)
 {
+    if (m_isClosed)
+        return;
     const PlayFailure::Row &row = PlayFailure::rowOf(errCode);
     QString text = PlayFailure::text(row, QUrl());
     if (row.code == 0)
@@ -274,7 +420,7 @@ void NormalMainWindow::tellFailure(int errCode)
 void NormalMainWindow::tellNote(int type)
 {
     const ErrorNote::Row *row = ErrorNote::rowOf(type);
-    if (row == nullptr)
+    if (row == nullptr || m_isClosed)
         return;
     NormalMessageBox box(this);
     box.setText(ErrorNote::text(*row));
@@ -283,6 +429,19 @@ void NormalMainWindow::tellNote(int type)
     box.exec();
     if (row->suppressKey != nullptr && box.isCheckBoxChecked())
         ErrorNote::suppress(*row, m_settings);
+}
+
+void NormalMainWindow::tellBdavNote()
+{
+    if (m_isClosed)
+        return;
+    NormalMessageBoxFactory::showNote(this, MenuCase::bdavNote());
+    MenuCase::suppressBdavNote(m_settings);
+}
+
+void NormalMainWindow::slot_changePoster(QVariant data, bool bAnimate)
+{
+    m_startView->setPoster(data, bAnimate);
 }
 
 void NormalMainWindow::slot_openMedia()
@@ -299,210 +458,42 @@ void NormalMainWindow::slot_openMedia()
     slot_playSource(path);
 }
 
+void NormalMainWindow::slot_loadSubtitle()
+{
+    if (!m_control->hasSource())
+        return;
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Load Subtitle..."), QFileInfo(m_control->currentPath()).absolutePath(),
+        tr(kSubtitleFilter).arg(QLatin1String(DropRule::SubtitleNames)));
+    if (!path.isEmpty())
+        emit sig_addSubtitle(path);
+}
+
+void NormalMainWindow::slot_aboutAction()
+{
+    m_dialogs->show(PopDlgTyle::About);
+}
+
+void NormalMainWindow::openDialog(PopDlgTyle type)
+{
+    switch (type) {
+    case PopDlgTyle::OpenMedia:
+        slot_openMedia();
+        break;
+    case PopDlgTyle::LoadSubtitle:
+        slot_loadSubtitle();
+        break;
+    default:
+        m_dialogs->show(type);
+        break;
+    }
+}
+
 void NormalMainWindow::slot_saveScreenShot(unsigned char *RGBA, int Width, int Height)
 {
     m_screenshots->write(
         ScreenshotWriter::copyOf(RGBA, Width, Height),
         ScreenshotNaming::target(m_settings, ApplicationInfoManager::instance()->picturesFolder()));
-}
-
-// ---- window
-
-void NormalMainWindow::slot_activeWindow()
-{
-    if (isMinimized())
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
-}
-
-void NormalMainWindow::slot_closeClicked()
-{
-    close();
-}
-
-void NormalMainWindow::slot_minClicked()
-{
-    showMinimized();
-}
-
-void NormalMainWindow::slot_maxClicked()
-{
-    showMaximized();
-}
-
-void NormalMainWindow::slot_restoreClicked()
-{
-    if (isFullScreen() && m_maximizedBeforeFullScreen)
-        showMaximized();
-    else
-        showNormal();
-}
-
-void NormalMainWindow::slot_fullScreen()
-{
-    if (isFullScreen()) {
-        slot_restoreClicked();
-        return;
-    }
-    m_maximizedBeforeFullScreen = isMaximized();
-    showFullScreen();
-}
-
-void NormalMainWindow::slot_fitVideoSize(int nWidth, int nHeight)
-{
-    if (!m_placement.matchesVideo() || isFullScreen() || isMaximized() || nWidth <= 0 || nHeight <= 0)
-        return;
-    const QSize available = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(nWidth, nHeight + m_titleBar->height()).boundedTo(available));
-}
-
-void NormalMainWindow::applyAlwaysOnTop(bool playing)
-{
-    const bool onTop = playing && m_settings.value(QLatin1String(SettingsKeys::PC_AlwaysOnTop)).toBool();
-    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)
-        return;
-    // Through the native window: a change of the widget's flags would hide it and may give the video surface
-    // another native window under the engine's feet.
-    overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, onTop));
-    if (windowHandle() != nullptr)
-        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, onTop);
-}
-
-void NormalMainWindow::SLOT_haveMouseMove()
-{
-    if (!isFullScreen())
-        return;
-    unsetCursor();
-    m_titleBar->show();
-}
-
-void NormalMainWindow::SLOT_mouseMoveStop()
-{
-    if (!isFullScreen() || !isPlayViewShown() || m_titleBar->underMouse())
-        return;
-    setCursor(Qt::BlankCursor);
-    m_titleBar->hide();
-}
-
-void NormalMainWindow::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange)
-        return;
-    m_titleBar->setVisible(!isFullScreen());
-    m_titleBar->setMaximized(isMaximized() || isFullScreen());
-    if (!isFullScreen())
-        unsetCursor();
-}
-
-void NormalMainWindow::moveEvent(QMoveEvent *event)
-{
-    QWidget::moveEvent(event);
-    noteNormalGeometry();
-    if (m_player != nullptr)
-        m_player->forwardWindowMove(event->pos().x(), event->pos().y());
-}
-
-void NormalMainWindow::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    noteNormalGeometry();
-}
-
-void NormalMainWindow::noteNormalGeometry()
-{
-    if (isVisible() && !isMaximized() && !isFullScreen() && !isMinimized())
-        m_normalGeometry = geometry();
-}
-
-// ---- input
-
-void NormalMainWindow::slot_hotKey(KeyOperateType type)
-{
-    switch (type) {
-    case KeyOperate_OpenFile:
-        slot_openMedia();
-        return;
-    case KeyOperate_Close:
-        slot_closeClicked();
-        return;
-    case KeyOperate_FullScreen:
-        slot_fullScreen();
-        return;
-    case KeyOperate_AlwaysOnTop: {
-        const QString key = QLatin1String(SettingsKeys::PC_AlwaysOnTop);
-        m_settings.setValue(key, !m_settings.value(key).toBool());
-        applyAlwaysOnTop(m_control->hasSource());
-        return;
-    }
-    case KeyOperate_Stop:
-        if (m_control->hasSource())
-            m_control->slot_stopLater();
-        return;
-    default:
-        if (m_keyActions && m_control->hasSource())
-            m_keyActions->run(type);
-    }
-}
-
-void NormalMainWindow::slot_changeVolume(int nCount)
-{
-    if (m_keyActions && m_control->hasSource())
-        m_keyActions->changeVolume(nCount);
-}
-
-void NormalMainWindow::keyPressEvent(QKeyEvent *event)
-{
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape && isFullScreen())
-        slot_restoreClicked();
-    else if (isEnter && event->modifiers().testFlag(Qt::AltModifier))
-        slot_fullScreen();
-    else if (event->key() == Qt::Key_Plus)
-        slot_changeVolume(1);
-    else
-        QWidget::keyPressEvent(event);
-}
-
-void NormalMainWindow::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    if (isPlayViewShown())
-        slot_fullScreen();
-    QWidget::mouseDoubleClickEvent(event);
-}
-
-void NormalMainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (droppedPaths(event->mimeData()).isEmpty())
-        return;
-    m_startView->setDropping(true);
-    event->acceptProposedAction();
-}
-
-void NormalMainWindow::dragLeaveEvent(QDragLeaveEvent *event)
-{
-    m_startView->setDropping(false);
-    QWidget::dragLeaveEvent(event);
-}
-
-void NormalMainWindow::dropEvent(QDropEvent *event)
-{
-    m_startView->setDropping(false);
-    const QStringList paths = droppedPaths(event->mimeData());
-    if (paths.isEmpty())
-        return;
-    event->acceptProposedAction();
-    const QString first = paths.first();
-    // After the drop has been answered: the other program waits for that.
-    QTimer::singleShot(0, this, [this, first] {
-        if (m_player != nullptr && m_control->hasSource()
-            && CommonInfoManager::kindOf(first) == FileKind::Subtitle)
-            m_player->addSubtitle(first);
-        else
-            slot_playSource(first);
-    });
 }
 
 // ---- end
@@ -514,27 +505,32 @@ void NormalMainWindow::closeEvent(QCloseEvent *event)
     if (m_isClosed)
         return;
     m_isClosed = true;
-    m_playView->showWaiting(false);
-    m_borders->hideAll();
-    storeVolume();
-    m_setUp->cancel();
-    AppEventFilter::instance()->stop();
-    if (m_player != nullptr)
-        disconnect(m_player, nullptr, this, nullptr);
     const bool maximized = isMaximized() || (isFullScreen() && m_maximizedBeforeFullScreen);
     const bool fullScreen = isFullScreen();
+    m_playView->showWaiting(false);
+    m_dialogs->closeAll();
+    m_overlays->endSource();
+    m_borders->hideAll();
+    m_shadow->hide();
+    // The engine may take its time; the window is gone for the user from here on.
+    hide();
+    QGuiApplication::sync();
+    m_covers->forget();
+    m_drops->cancel();
+    if (m_isEngineReady)
+        m_overlays->bar()->volumeControl()->store();
+    m_setUp->cancel();
+    AppEventFilter::instance()->stop();
+    if (m_player != nullptr) {
+        for (QObject *listener :
+             {static_cast<QObject *>(this), static_cast<QObject *>(m_session),
+              static_cast<QObject *>(m_overlays), static_cast<QObject *>(m_overlays->bar())})
+            disconnect(m_player, nullptr, listener, nullptr);
+    }
     m_control->shutDown();
     m_worker.reset();
     m_placement.store(m_normalGeometry, maximized, fullScreen);
     AdvertismentManagerEx::instance()->windowClosed(
         m_settings.value(QLatin1String(SettingsKeys::PC_Played)).toBool());
     QCoreApplication::quit();
-}
-
-void NormalMainWindow::storeVolume()
-{
-    if (!m_isEngineReady)
-        return;
-    const int count = qBound(0, qRound(m_player->volume() * kFullVolume), int(kFullVolume));
-    m_settings.setValue(QLatin1String(SettingsKeys::PC_VolumeCount), count);
 }

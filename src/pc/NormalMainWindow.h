@@ -1,30 +1,43 @@
-// The shell of PC mode: one frameless window with a title bar and a stack of central views.
+// The shell of PC mode: one frameless window with a stack of central views, and bars that hover over them.
 //
-// Owns the views, the set-up of the engine, the worker for slow engine commands and the play control; what
-// happens from a request to the end of playback is the play control's. GUI thread.
+// Owns the views, the overlays, the set-up of the engine, the worker for slow engine commands and the play
+// control; what happens from a request to the end of playback is the play control's. GUI thread.
 #pragma once
 
 #include "WindowPlacement.h"
 
 #include "core/ILanguageBase.h"
 #include "keys/KeyOperateType.h"
+#include "playcontrol/DropRule.h"
+#include "playcontrol/RecentFiles.h"
 
+#include <QPoint>
+#include <QVariant>
 #include <QWidget>
 
 #include <memory>
 
+class AnimateMenu;
+class CoverReader;
 class DeferredSetup;
+class DropReader;
+class NormalAudioView;
 class NormalPlayControl;
 class NormalPlayView;
 class NormalStartView;
 class NormalTitleBar;
+class PcDialogs;
 class PcKeyActions;
+class PcMediaSession;
+class PlayOverlays;
 class QDraggableNoBordersWnd;
 class QPlayer;
 class QStackedWidget;
 class ScreenshotWriter;
 class SettingsManager;
+class WindowShadow;
 class workObject;
+enum class PopDlgTyle;
 
 class NormalMainWindow final : public QWidget, public ILanguageBase {
     Q_OBJECT
@@ -38,6 +51,9 @@ public:
 
     void applyStartFlags(int flags);
     [[nodiscard]] NormalPlayControl *playControl() const { return m_control; }
+    [[nodiscard]] PlayOverlays *overlays() const { return m_overlays; }
+    [[nodiscard]] PcMediaSession *mediaSession() const { return m_session; }
+    // The picture, or what stands for it while music plays, is on view.
     [[nodiscard]] bool isPlayViewShown() const;
 
     void retranslate() override;
@@ -50,61 +66,106 @@ public slots:
     void slot_backToSelectView();
     void slot_showInitFailDialog();
     void slot_openMedia();
+    void slot_loadSubtitle();
+    void slot_aboutAction();
+    void slot_menuClicked();
     void slot_hotKey(KeyOperateType type);
+    // Steps of the volume, negative ones downwards.
     void slot_changeVolume(int nCount);
+    void slot_changePoster(QVariant data, bool bAnimate);
     void slot_closeClicked();
     void slot_minClicked();
     void slot_maxClicked();
     void slot_restoreClicked();
     void slot_fullScreen();
     void slot_fitVideoSize(int nWidth, int nHeight);
+    void slot_resizeFromRightBottom(QPoint pt);
+    void slot_updatePosition(QPoint pt);
     void slot_saveScreenShot(unsigned char *RGBA, int Width, int Height);
+    void slot_responseFocusChange(QWidget *old, QWidget *now);
     void SLOT_haveMouseMove();
     void SLOT_mouseMoveStop();
 
 signals:
     void sig_resizeRender(int nWidth, int nHeight);
     void sig_setup3D();
+    void sig_seek(int nTime);
+    void sig_addSubtitle(QString strPath);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    bool nativeEvent(const QByteArray &eventType, void *message, long *result) override;
 
 private:
     void makeViews();
+    void makeMenu();
     void connectParts();
+    void connectTitleBar(NormalTitleBar *titleBar);
+    void connectBar();
     void connectControl();
+    void connectSession();
     void restoreWindow(bool showNow);
     void onPlayerMade(QPlayer *player);
     void onEngineReady();
+    void onSourceOpened(bool isVideo);
+    void onCover(const QImage &cover);
     void showPlayView(const QString &title);
+    void offerLastPosition();
+    void takeDrop(const DropRule::Outcome &outcome);
+    void addDroppedSubtitles();
+    void showRecent();
     void tellFailure(int errCode);
     void tellNote(int type);
+    void tellBdavNote();
+    void openDialog(PopDlgTyle type);
     void applyAlwaysOnTop(bool playing);
+    void toggleAlwaysOnTop();
+    void toggleInformation();
+    void updateTitleBar();
+    void placeMenu();
     void noteNormalGeometry();
-    void storeVolume();
+    void passMouseToDisc(const QMouseEvent &event);
 
     SettingsManager &m_settings;
     WindowPlacement m_placement;
+    RecentFiles m_recent;
     NormalTitleBar *m_titleBar{nullptr};
     QStackedWidget *m_stack{nullptr};
     NormalStartView *m_startView{nullptr};
     NormalPlayView *m_playView{nullptr};
+    NormalAudioView *m_audioView{nullptr};
+    AnimateMenu *m_menu{nullptr};
+    PlayOverlays *m_overlays{nullptr};
+    PcDialogs *m_dialogs{nullptr};
     DeferredSetup *m_setUp{nullptr};
     NormalPlayControl *m_control{nullptr};
+    WindowShadow *m_shadow{nullptr};
     ScreenshotWriter *m_screenshots{nullptr};
+    PcMediaSession *m_session{nullptr};
+    CoverReader *m_covers{nullptr};
+    DropReader *m_drops{nullptr};
+    QStringList m_droppedSubtitles; // for the source that is on its way
     std::unique_ptr<QDraggableNoBordersWnd> m_borders;
     std::unique_ptr<workObject> m_worker;
     std::unique_ptr<PcKeyActions> m_keyActions;
     QPlayer *m_player{nullptr};
     QRect m_normalGeometry;
+    QSize m_sizeBeforeFit; // empty while no video has changed the size
+    QPoint m_pressedAt;
+    bool m_isPressedOnPicture{false};
     bool m_maximizedBeforeFullScreen{false};
     bool m_isEngineReady{false};
     bool m_isClosed{false};

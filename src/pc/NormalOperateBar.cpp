@@ -164,6 +164,12 @@ void NormalOperateBar::setFullScreen(bool fullScreen)
     putButtons();
 }
 
+void NormalOperateBar::setPlaceAvailable(TransportPlace place, bool available)
+{
+    m_absent.set(static_cast<std::size_t>(place), !available);
+    arrange();
+}
+
 void NormalOperateBar::setMusicPixmap(const QPixmap &cover)
 {
     button(Button::MusicPixmap)->setCover(cover);
@@ -296,7 +302,7 @@ void NormalOperateBar::updateEnabled()
 
 TransportLayout NormalOperateBar::layoutOfSize() const
 {
-    TransportLayout::PlaceSet absent;
+    TransportLayout::PlaceSet absent = m_absent;
     absent.set(static_cast<std::size_t>(TransportPlace::MusicPixmap),
                !button(Button::MusicPixmap)->hasCover());
     return TransportLayout::arranged(size(), double(DisplayScale::instance()->ratioWidth()), isCompact(),

@@ -79,6 +79,8 @@ public:
     void setSeekControl(int shown);
     void setChapterMarks(const QVector<int> &seconds);
     void setFullScreen(bool fullScreen);
+    // Takes a control out of the bar, or puts it back: what it opens is not there.
+    void setPlaceAvailable(TransportPlace place, bool available);
     // A window that cannot be resized by hand has no grip.
     void setGripEnabled(bool enabled) { m_gripEnabled = enabled; }
     // The time above the pointer, for sources without a picture of that moment.
@@ -195,6 +197,7 @@ private:
     TransportTime *m_time;
     std::map<Button, TransportButton *> m_buttons;
     TransportLayout m_layout;
+    TransportLayout::PlaceSet m_absent;
 
     QPlayer::QPlayerStatus m_status{QPlayer::QPlayerStatus_None};
     QString m_displayName;

@@ -3,11 +3,13 @@
 #include "core/CommunicationManager.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
+#include "online/PlayInfoStatisticsHelper.h"
 #include "playcontrol/DiscEventRule.h"
 #include "playcontrol/EndRule.h"
 #include "playcontrol/ErrorNote.h"
 #include "playcontrol/PlayFailure.h"
 #include "playcontrol/ResumeRule.h"
+#include "playcontrol/StatisticName.h"
 #include "player/DeferredSetup.h"
 
 #include <QFileInfo>
@@ -19,6 +21,8 @@
 namespace {
 
 constexpr int kTracksAfterMs = 1000;
+constexpr int kNoteAfterMs = 1000;
+constexpr char kStatistics[] = "PlayInfo";
 constexpr char kVideo[] = "Video";
 constexpr char kAudio[] = "Audio";
 constexpr char kPlayMode[] = "PC";
@@ -77,15 +81,28 @@ bool NormalPlayControl::play(const QString &path, int title)
     m_sourceKind = source.kind;
     m_hasSource = true;
 
-    const PositionStore::Entry stored = m_positions.read(
+    ++m_sourceNumber;
+
+    m_stored = m_positions.read(
         ResumeRule::storeKey(m_currentPath, source.kind == PlaySource::Disc ? m_displayName : QString()));
     m_resumePending = true;
-    m_resumeSeconds = ResumeRule::startSeconds(m_positions.remembersPosition(), stored.seconds);
+    m_resumeSeconds = ResumeRule::startSeconds(m_positions.remembersPosition(), m_stored.seconds);
+    PlayInfoStatisticsHelper::instance()->note(QLatin1String(kStatistics), QStringLiteral("beginPlay"),
+                                               QString::number(source.kind));
 
     m_order = {m_currentPath, m_sourceKind, m_titleNumber, source.cueTitle, m_resumeSeconds};
     emit sourceAccepted(m_displayName);
     m_setUp.start();
     m_playThread.start(QThread::InheritPriority);
+    return true;
+}
+
+bool NormalPlayControl::playNext()
+{
+    // What can't be taken now stays for the next time.
+    if (m_waiting.isEmpty() || !play(m_waiting.first()))
+        return false;
+    m_waiting.removeFirst();
     return true;
 }
 
@@ -194,13 +211,25 @@ void NormalPlayControl::slot_responsePlayState(QPlayer::QPlayerStatus status)
         break;
     case QPlayer::QPlayerStatus_Ended: {
         const auto exists = [](const QString &path) { return QFileInfo::exists(path); };
+        const QString nextEpisode = m_nextEpisode ? m_nextEpisode() : QString();
         emit idle();
-        if (EndRule::after({m_closeAtEnd, {}, false}, exists) == EndRule::Next::CloseWindow) {
+        switch (EndRule::after({m_closeAtEnd, nextEpisode, !m_waiting.isEmpty()}, exists)) {
+        case EndRule::Next::CloseWindow:
             emit closeWanted();
             break;
+        case EndRule::Next::PlayNextEpisode:
+            slot_onlyStopLater();
+            QTimer::singleShot(0, this, [this, nextEpisode] { play(nextEpisode); });
+            break;
+        case EndRule::Next::PlayNextInQueue:
+            slot_onlyStopLater();
+            QTimer::singleShot(0, this, &NormalPlayControl::playNext);
+            break;
+        default:
+            slot_onlyStopLater();
+            QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
+            break;
         }
-        slot_onlyStopLater();
-        QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
         break;
     }
     default:
@@ -212,6 +241,9 @@ void NormalPlayControl::slot_responseStopInfo(vdStopPlayInfo info)
 {
     const PositionStore::Stop stop = stopOf(info, m_player != nullptr ? m_player->lastFrame() : QImage());
     m_positions.record(stop, stop.path.size() == 1 ? m_displayName : QString());
+    PlayInfoStatisticsHelper::instance()->note(
+        QLatin1String(kStatistics), StatisticName::stop(m_player->fileTypeText(), m_player->mediaTypeText()),
+        QString::number(ResumeRule::secondsOf(stop.positionMs)));
     QTimer::singleShot(0, this, [this] {
         // The stop may belong to the source before the one that is being opened.
         if (!m_playThread.isRunning())
@@ -223,9 +255,56 @@ void NormalPlayControl::slot_responseVideoInfo(vdFileInfo info)
 {
     m_mediaKind = QLatin1String(info.audioOnly != 0 ? kAudio : kVideo);
     qInfo() << "[Play control] Enter slot_responseVideoInfo";
+    const bool isVideo = info.audioOnly == 0;
+    PlayInfoStatisticsHelper::instance()->note(QLatin1String(kStatistics), QStringLiteral("Success"),
+                                               QStringLiteral("%1x%2 %3")
+                                                   .arg(info.width)
+                                                   .arg(info.height)
+                                                   .arg(QString::fromUtf8(info.codec).toLower()));
     m_player->setAuthorInfo(0);
-    emit sourceOpened(info.audioOnly == 0);
-    QTimer::singleShot(kTracksAfterMs, this, &NormalPlayControl::slot_setupLastPositionAudioSub);
+    emit sourceOpened(isVideo);
+
+    const MenuCase::Source source = menuSource(info);
+    const bool byMenu = MenuCase::playsByMenu(source, m_settings);
+    emit seekControlChanged(MenuCase::seekControl(byMenu));
+    const QString key = QLatin1String(SettingsKeys::PC_RememberPosition);
+    const auto remember =
+        m_settings.contains(key) ? std::optional<bool>(m_settings.value(key).toBool()) : std::nullopt;
+    if (ResumeRule::showsNote(isVideo, remember, byMenu) && m_titleNumber == -1)
+        laterForThisSource(kNoteAfterMs, [this] { emit resumeNoteDue(); });
+    laterForThisSource(kTracksAfterMs, [this] { slot_setupLastPositionAudioSub(); });
+    if (MenuCase::showsBdavNote(source, m_settings))
+        emit bdavNoteDue();
+}
+
+MenuCase::Source NormalPlayControl::menuSource(const vdFileInfo &info) const
+{
+    MenuCase::Source source;
+    source.titleNumber = m_titleNumber;
+    switch (info.sourceForm) {
+    case libvp::VD_Source_ImageDvd:
+    case libvp::VD_Source_FolderDvd:
+    case libvp::VD_Source_DiscDvd:
+        source.disc = MenuCase::Disc::Dvd;
+        break;
+    case libvp::VD_Source_ImageBluRay:
+    case libvp::VD_Source_FolderBluRay:
+    case libvp::VD_Source_DiscBluRay:
+        source.disc = MenuCase::Disc::BluRay;
+        source.isBdav = (info.flags & libvp::VD_Flag_Bdav) != 0;
+        break;
+    default:
+        break;
+    }
+    return source;
+}
+
+void NormalPlayControl::laterForThisSource(int milliseconds, std::function<void()> action)
+{
+    QTimer::singleShot(milliseconds, this, [this, number = m_sourceNumber, action = std::move(action)] {
+        if (m_hasSource && number == m_sourceNumber)
+            action();
+    });
 }
 
 void NormalPlayControl::slot_setupLastPositionAudioSub()

@@ -6,13 +6,16 @@
 #pragma once
 
 #include "core/QSimpleThreadPack.h"
+#include "playcontrol/MenuCase.h"
 #include "playcontrol/PositionStore.h"
 #include "player/PlayOrder.h"
 #include "player/PlaySourcePath.h"
 #include "player/QPlayer.h"
 
 #include <QObject>
-#include <QSize>
+#include <QStringList>
+
+#include <functional>
 
 class DeferredSetup;
 class SettingsManager;
@@ -23,6 +26,15 @@ public:
     NormalPlayControl(SettingsManager &settings, DeferredSetup &setUp, PlaySourcePath paths,
                       QObject *parent = nullptr);
     ~NormalPlayControl() override;
+
+    // The episode that follows the source at its end, empty without one; asked when the source has ended.
+    void setNextEpisode(std::function<QString()> nextEpisode) { m_nextEpisode = std::move(nextEpisode); }
+
+    // What plays after the source, in order; a request of another kind leaves it as it is.
+    void setWaiting(const QStringList &paths) { m_waiting = paths; }
+    [[nodiscard]] QStringList waiting() const { return m_waiting; }
+    // The first that waits; false without one.
+    bool playNext();
 
     // False when the request was dropped: the engine can't play, or an open is under way.
     bool play(const QString &path, int title = -1);
@@ -38,6 +50,10 @@ public:
     [[nodiscard]] QString mediaKind() const { return m_mediaKind; }
     [[nodiscard]] int resumeSeconds() const { return m_resumeSeconds; }
     [[nodiscard]] bool isResumePending() const { return m_resumePending; }
+    // The picture of the stored position, as it stands in the settings.
+    [[nodiscard]] QByteArray resumeImage() const { return m_stored.picture; }
+    [[nodiscard]] int storedSeconds() const { return m_stored.seconds; }
+    [[nodiscard]] int sourceKind() const { return m_sourceKind; }
 
     void connectPlayer(QPlayer *player);
 
@@ -66,6 +82,11 @@ signals:
     void sourceAccepted(const QString &displayName);
     void waitingChanged(bool waiting);
     void sourceOpened(bool isVideo);
+    // 1 for a source on a time line, 0 for one that plays by its menu.
+    void seekControlChanged(int shown);
+    // The stored position may be offered now.
+    void resumeNoteDue();
+    void bdavNoteDue();
     void playing();
     void idle();
     void selectViewWanted();
@@ -79,6 +100,9 @@ private:
     void runOrder();
     void stopOnThread();
     void finishEnded();
+    // Runs an action a little later, if this is still the source then.
+    void laterForThisSource(int milliseconds, std::function<void()> action);
+    [[nodiscard]] MenuCase::Source menuSource(const vdFileInfo &info) const;
 
     SettingsManager &m_settings;
     DeferredSetup &m_setUp;
@@ -88,12 +112,16 @@ private:
     QSimpleThreadPack m_playThread;
     QSimpleThreadPack m_stopThread;
     PlayOrder m_order;
+    std::function<QString()> m_nextEpisode;
+    QStringList m_waiting;
 
     QString m_currentPath;
     QString m_displayName;
     QString m_mediaKind;
     int m_titleNumber{-1};
     int m_sourceKind{PlaySource::File};
+    PositionStore::Entry m_stored; // what was known of the source when it was asked for
+    int m_sourceNumber{0};
     int m_resumeSeconds{0};
     bool m_resumePending{false};
     bool m_closeAtEnd{false};

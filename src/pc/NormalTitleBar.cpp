@@ -36,16 +36,19 @@ NormalTitleBar::NormalTitleBar(QWidget *parent)
         button->setDesignSize(kButton, kIcon);
         return button;
     };
+    m_menu = makeButton("window_menu", "windowButton");
     m_min = makeButton("window_min", "windowButton");
     m_max = makeButton("window_max", "windowButton");
     m_close = makeButton("window_close", "windowCloseButton");
+    connect(m_menu, &QPushButton::clicked, this, &NormalTitleBar::menuClicked);
     connect(m_min, &QPushButton::clicked, this, &NormalTitleBar::minClicked);
     connect(m_max, &QPushButton::clicked, this, &NormalTitleBar::toggleMaximized);
     connect(m_close, &QPushButton::clicked, this, &NormalTitleBar::closeClicked);
 
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(scale->scaleWidth(16), 0, scale->scaleWidth(8), 0);
+    layout->setContentsMargins(scale->scaleWidth(8), 0, scale->scaleWidth(8), 0);
     layout->setSpacing(scale->scaleWidth(4));
+    layout->addWidget(m_menu);
     layout->addWidget(m_label, 1);
     for (PictureButton *button : {m_min, m_max, m_close})
         layout->addWidget(button);
@@ -54,9 +57,17 @@ NormalTitleBar::NormalTitleBar(QWidget *parent)
 
 void NormalTitleBar::retranslate()
 {
-    m_min->setToolTip(tr("Minimize"));
-    m_max->setToolTip(m_maximized ? tr("Restore") : tr("Maximize"));
-    m_close->setToolTip(tr("Close"));
+    const struct {
+        PictureButton *button;
+        QString text;
+    } rows[] = {{m_menu, tr("Menu")},
+                {m_min, tr("Minimize")},
+                {m_max, m_maximized ? tr("Restore") : tr("Maximize")},
+                {m_close, tr("Close")}};
+    for (const auto &row : rows) {
+        row.button->setToolTip(row.text);
+        row.button->setAccessibleName(row.text);
+    }
 }
 
 void NormalTitleBar::setText(const QString &text)
@@ -70,6 +81,11 @@ void NormalTitleBar::setMaximized(bool maximized)
     m_maximized = maximized;
     m_max->setPicture(maximized ? QStringLiteral("window_restore") : QStringLiteral("window_max"));
     retranslate();
+}
+
+QWidget *NormalTitleBar::movedWindow() const
+{
+    return m_movedWindow != nullptr ? m_movedWindow : window();
 }
 
 void NormalTitleBar::toggleMaximized()
@@ -95,13 +111,13 @@ void NormalTitleBar::resizeEvent(QResizeEvent *event)
 void NormalTitleBar::mousePressEvent(QMouseEvent *event)
 {
     m_dragging = event->button() == Qt::LeftButton;
-    m_dragOffset = event->globalPos() - window()->pos();
+    m_dragOffset = event->globalPos() - movedWindow()->pos();
 }
 
 void NormalTitleBar::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_dragging && event->buttons().testFlag(Qt::LeftButton) && !m_maximized)
-        window()->move(event->globalPos() - m_dragOffset);
+        movedWindow()->move(event->globalPos() - m_dragOffset);
 }
 
 void NormalTitleBar::mouseReleaseEvent(QMouseEvent *)

@@ -17,12 +17,15 @@ public:
 
     void setText(const QString &text);
     [[nodiscard]] QString text() const { return m_text; }
+    // What a drag moves, where it is not the window that the bar stands in.
+    void setMovedWindow(QWidget *window) { m_movedWindow = window; }
     // A maximised window offers to be restored.
     void setMaximized(bool maximized);
 
     void retranslate();
 
 signals:
+    void menuClicked();
     void minClicked();
     void maxClicked();
     void restoreClicked();
@@ -36,10 +39,13 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] QWidget *movedWindow() const;
     void toggleMaximized();
     void showText();
 
     QLabel *m_label{nullptr};
+    QWidget *m_movedWindow{nullptr};
+    PictureButton *m_menu{nullptr};
     PictureButton *m_min{nullptr};
     PictureButton *m_max{nullptr};
     PictureButton *m_close{nullptr};

@@ -1,15 +1,10 @@
 #include "PcKeyActions.h"
 
-#include "core/SettingsKeys.h"
-#include "core/SettingsManager.h"
+#include "VolumeControl.h"
+
 #include "player/QPlayer.h"
 
-#include <functional>
-
 namespace {
-
-constexpr float kVolumeStep = 0.01F;
-constexpr float kLoudest = 2.0F;
 
 // Commands of a disc menu, in the engine's numbers.
 enum MenuCommand { MenuRight = 2, MenuUp = 3, MenuOk = 4, MenuCall = 6, MenuLeft = 9, MenuDown = 10 };
@@ -26,11 +21,11 @@ bool PcKeyActions::run(KeyOperateType type)
         std::function<void()> action;
     } rows[] = {
         {KeyOperate_PlayPause, [this] { m_player.togglePause(); }},
-        {KeyOperate_Mute, [this] { toggleMute(); }},
+        {KeyOperate_Mute, [this] { m_volume.toggleMute(); }},
         {KeyOperate_PreviousChapter, [this] { m_player.lastChapter(); }},
         {KeyOperate_NextChapter, [this] { m_player.nextChapter(); }},
-        {KeyOperate_VolumeUp, [this] { changeVolume(1); }},
-        {KeyOperate_VolumeDown, [this] { changeVolume(-1); }},
+        {KeyOperate_VolumeUp, [this] { m_volume.changeVolume(1); }},
+        {KeyOperate_VolumeDown, [this] { m_volume.changeVolume(-1); }},
         {KeyOperate_FastForward, [this] { m_player.speedUp(true); }},
         {KeyOperate_Rewind, [this] { m_player.speedUp(false); }},
         {KeyOperate_SwitchAudio, [this] { cycleAudio(); }},
@@ -61,22 +56,9 @@ bool PcKeyActions::run(KeyOperateType type)
     return false;
 }
 
-void PcKeyActions::changeVolume(int step)
-{
-    const float change = step < 1 ? -kVolumeStep : kVolumeStep;
-    m_player.setVolume(qBound(0.0F, m_player.volume() + change, kLoudest));
-}
-
-void PcKeyActions::toggleMute()
-{
-    const bool mute = !m_player.isMuted();
-    m_player.setMute(mute);
-    m_settings.setValue(QLatin1String(SettingsKeys::PC_VolumeMute), mute);
-}
-
 void PcKeyActions::seekBy(int seconds)
 {
-    m_player.seek(qBound(0.0, m_player.currentTime() + seconds, m_player.totalTime()));
+    m_seek(int(qBound(0.0, m_player.currentTime() + seconds, m_player.totalTime())));
 }
 
 void PcKeyActions::cycleAudio()

@@ -5,34 +5,36 @@
 
 #include "keys/KeyOperateType.h"
 
+#include <functional>
+
 class QPlayer;
-class SettingsManager;
+class VolumeControl;
 
 class PcKeyActions final {
 public:
     // Seconds of one step.
     static constexpr int StepSeconds = 10;
 
-    PcKeyActions(QPlayer &player, SettingsManager &settings)
+    // A seek may wait for the disc: it goes where it holds up no window.
+    using Seek = std::function<void(int seconds)>;
+
+    PcKeyActions(QPlayer &player, VolumeControl &volume, Seek seek)
         : m_player(player)
-        , m_settings(settings)
+        , m_volume(volume)
+        , m_seek(std::move(seek))
     {
     }
 
     // False when the operation is none of these.
     bool run(KeyOperateType type);
 
-    // A step below 1 lowers the volume by one percent, any other raises it; the engine takes up to 200
-    // percent.
-    void changeVolume(int step);
-
 private:
-    void toggleMute();
     void seekBy(int seconds);
     void cycleAudio();
     void cycleSubtitle();
     void arrow(int menuCommand, KeyOperateType type);
 
     QPlayer &m_player;
-    SettingsManager &m_settings;
+    VolumeControl &m_volume;
+    Seek m_seek;
 };

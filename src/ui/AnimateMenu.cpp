@@ -177,6 +177,17 @@ void AnimateMenu::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
 }
 
+// A popup is also closed from outside.
+void AnimateMenu::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (event->spontaneous())
+        return;
+    m_isOpen = false;
+    m_pressed = NoRow;
+    stopAll();
+}
+
 QRect AnimateMenu::rowRect(int row) const
 {
     if (row < 0 || row >= m_rows.size())
@@ -263,7 +274,11 @@ void AnimateMenu::stepHovered(int direction)
 void AnimateMenu::choose(int row)
 {
     const Row chosen = m_rows.at(row);
-    slideOut();
+    // What is chosen may be a dialog, and a popup would keep mouse and keyboard until it has slid out.
+    if (windowType() == Qt::Popup)
+        hide();
+    else
+        slideOut();
     if (chosen.kind == Kind::CheckVersion)
         emit sig_checkVersion();
     else

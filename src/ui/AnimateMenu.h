@@ -1,7 +1,8 @@
 // The main menu of PC mode: a panel that opens from a side of its window, with lines that it paints itself.
 //
 // Its place is held in floating point and moved by the animation; the lines stand still at the inner edge
-// while the panel uncovers them. GUI thread.
+// while the panel uncovers them. It is a child of its window, or a popup, which a press beside it closes. GUI
+// thread.
 #pragma once
 
 #include "AnimateObject.h"
@@ -73,6 +74,7 @@ public slots:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

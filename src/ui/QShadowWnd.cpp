@@ -27,7 +27,9 @@ void QShadowWnd::showEvent(QShowEvent *event)
         return;
     const QSize around(Margins.left() + Margins.right(), Margins.top() + Margins.bottom());
     resize(m_content->size() + around);
-    slot_updatePosition(m_content->mapToGlobal(QPoint(0, 0)));
+    // A window that is just being shown is on the screen where it has been put only in a moment.
+    slot_updatePosition(m_content->isWindow() ? m_content->geometry().topLeft()
+                                              : m_content->mapToGlobal(QPoint(0, 0)));
     emit sig_updateContentWidget();
 }
 

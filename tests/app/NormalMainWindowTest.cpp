@@ -9,6 +9,7 @@
 #include "pc/NormalPlayView.h"
 #include "pc/NormalStartView.h"
 #include "pc/NormalTitleBar.h"
+#include "playcontrol/RecentFiles.h"
 #include "ui/VideoSurface.h"
 
 #include <QApplication>
@@ -40,6 +41,19 @@ protected:
         libvp::VDVideoInfo info;
         fakeEngine().setStatistic(libvp::VD_Stat_AudioOnly, audioOnly ? 1 : 0);
         fakeEngine().raise([info](libvp::IVDPlayCallback &callback) { callback.OnVideoInfo(&info); });
+    }
+    void drop(const QStringList &paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(10, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &enter);
+        ASSERT_TRUE(enter.isAccepted());
+        QDropEvent event(QPointF(10, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &event);
     }
     // Answers the next box with its first button; its text is kept.
     void answerNextBox()
@@ -279,7 +293,7 @@ TEST_F(NormalMainWindowTest, EscapeLeavesFullScreen)
     open();
     m_window->slot_fullScreen();
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->isFullScreen(); }, 5000));
-    EXPECT_FALSE(m_window->findChild<NormalTitleBar *>()->isVisible());
+    EXPECT_TRUE(m_window->findChild<NormalTitleBar *>()->isVisible()) << "the way out for the mouse";
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isFullScreen(); }, 5000));
     QTest::keyClick(m_window.get(), Qt::Key_Return, Qt::AltModifier);
@@ -299,6 +313,71 @@ TEST_F(NormalMainWindowTest, ADroppedFileIsPlayed)
     QCoreApplication::sendEvent(m_window.get(), &drop);
     EXPECT_TRUE(drop.isAccepted());
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_window->isPlayViewShown(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_control->isOpening(); }, 10000));
+}
+
+TEST_F(NormalMainWindowTest, DroppedFilesPlayOneAfterTheOther)
+{
+    const QString first = makeFile("a.mkv");
+    const QString second = makeFile("b.mkv");
+    open();
+    drop({first, second});
+    ASSERT_TRUE(QTest::qWaitFor([] { return openCount() == 1; }, 10000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_control->isOpening(); }, 10000));
+    EXPECT_EQ(m_control->currentPath(), first);
+    EXPECT_EQ(m_control->waiting(), QStringList(second));
+    fakeEngine().raise([](libvp::IVDPlayCallback &callback) { callback.OnPlayBackEnded(); });
+    ASSERT_TRUE(QTest::qWaitFor([] { return openCount() == 2; }, 10000));
+    EXPECT_EQ(m_control->currentPath(), second);
+    EXPECT_TRUE(m_control->waiting().isEmpty());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_control->isOpening(); }, 10000));
+}
+
+TEST_F(NormalMainWindowTest, ASubtitleDroppedOnWhatPlaysIsAdded)
+{
+    const QString subtitle = makeFile("film.srt");
+    open();
+    play(makeFile("film.mkv"));
+    drop({subtitle});
+    const std::string call = "IVDPlay::addSubtitle(" + subtitle.toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fakeEngine().waitCall(call, 10); }, 10000));
+    EXPECT_EQ(openCount(), 1);
+}
+
+TEST_F(NormalMainWindowTest, ADropOfNothingThatCanBePlayedIsTold)
+{
+    open();
+    answerNextBox();
+    drop({QStringLiteral("/nowhere/film.mkv")});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_boxes == 1; }, 10000));
+    EXPECT_FALSE(m_window->isPlayViewShown());
+}
+
+TEST_F(NormalMainWindowTest, ADragOfPagesOfTheWebIsNotTaken)
+{
+    open();
+    QMimeData data;
+    data.setUrls({QUrl("https://films.invalid/film.mkv")});
+    QDragEnterEvent enter(QPoint(10, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(NormalMainWindowTest, WhatWasPlayedStandsOnTheStartView)
+{
+    const QString film = makeFile("film.mkv");
+    RecentFiles recent(*SettingsManager::instance());
+    recent.clear();
+    open();
+    play(film);
+    m_window->slot_hotKey(KeyOperate_Stop);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window->isPlayViewShown(); }, 10000));
+    ASSERT_EQ(recent.entries().size(), 1);
+    EXPECT_EQ(recent.entries().first().path, film);
+    auto *start = m_window->findChild<NormalStartView *>();
+    ASSERT_EQ(start->cards().size(), 1);
+    emit start->recentClicked(film);
+    ASSERT_TRUE(QTest::qWaitFor([] { return openCount() == 2; }, 10000));
     ASSERT_TRUE(QTest::qWaitFor([this] { return !m_control->isOpening(); }, 10000));
 }
 

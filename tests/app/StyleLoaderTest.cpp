@@ -1,11 +1,14 @@
 #include "ui/StyleLoader.h"
 
 #include "core/ApplicationInfoManager.h"
+#include "ui/StyleSheetScaler.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QResource>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -60,6 +63,25 @@ TEST(StyleLoader, AnyUnreadableSheetIsToldUnderTheNameOfThePcSheet)
     EXPECT_FALSE(StyleLoader::applySelectStyle(present));
     EXPECT_FALSE(StyleLoader::applyTvStyle(present));
     EXPECT_EQ(closer.m_texts, QStringList({"File error: pcstyle.css", "File error: pcstyle.css"}));
+}
+
+// A sheet with one wrong letter is dropped as a whole, with a warning that fails the test.
+TEST(StyleLoader, EverySheetIsUnderstoodAtEveryScale)
+{
+    const QString resources =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/") + StyleLoader::kResourceFile;
+    ASSERT_TRUE(QResource::registerResource(resources));
+    for (const char *name : {"selectstyle.css", "pcstyle.css", "tvstyle.css"}) {
+        QFile sheet(QLatin1String(StyleLoader::kCssPrefix) + QLatin1String(name));
+        ASSERT_TRUE(sheet.open(QIODevice::ReadOnly)) << name;
+        const QString text = QString::fromUtf8(sheet.readAll());
+        for (const float ratio : {1.0F, 1.5F, 2.0F}) {
+            QWidget widget;
+            widget.setStyleSheet(StyleSheetScaler::scaled(text, ratio));
+            widget.ensurePolished();
+        }
+    }
+    QResource::unregisterResource(resources);
 }
 
 TEST(StyleLoader, ThemesHaveTheirFilesAndOthersNone)

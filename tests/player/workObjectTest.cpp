@@ -2,6 +2,7 @@
 
 #include "PlayerFixture.h"
 
+#include <QTemporaryFile>
 #include <QThread>
 
 using testing::Contains;
@@ -53,6 +54,42 @@ TEST_F(WorkObject, ASeekDoesNotOvertakeAResize)
     ASSERT_TRUE(engine.waitCall("IVDPlay::seek(40, 1)"));
     EXPECT_THAT(engine.calls(), ElementsAre("IVDPlayTool::resizeSurface(800, 600)", "IVDPlay::seek(30, 1)",
                                             "IVDPlay::seek(40, 1)"));
+}
+
+TEST_F(WorkObject, OfTheSizesThatComeWhileTheEngineIsBusyOnlyTheLastIsCarriedOut)
+{
+    start();
+    engine.hold("IVDPlayTool::resizeSurface");
+    work->requestRenderSize(800, 600);
+    ASSERT_TRUE(engine.waitHeld("IVDPlayTool::resizeSurface"));
+    for (int width = 801; width <= 900; ++width)
+        work->requestRenderSize(width, 600);
+    engine.release("IVDPlayTool::resizeSurface");
+    ASSERT_TRUE(engine.waitCall("IVDPlayTool::resizeSurface(900, 600)"));
+    EXPECT_THAT(engine.calls(),
+                ElementsAre("IVDPlayTool::resizeSurface(800, 600)", "IVDPlayTool::resizeSurface(900, 600)"));
+}
+
+TEST_F(WorkObject, OfTheSeeksThatComeWhileTheEngineIsBusyOnlyTheLastIsCarriedOut)
+{
+    start();
+    engine.hold("IVDPlay::seek");
+    work->requestSeek(1);
+    ASSERT_TRUE(engine.waitHeld("IVDPlay::seek"));
+    for (int second = 2; second <= 50; ++second)
+        work->requestSeek(second);
+    engine.release("IVDPlay::seek");
+    ASSERT_TRUE(engine.waitCall("IVDPlay::seek(50, 1)"));
+    EXPECT_THAT(engine.calls(), ElementsAre("IVDPlay::seek(1, 1)", "IVDPlay::seek(50, 1)"));
+}
+
+TEST_F(WorkObject, AddsASubtitleOnItsThread)
+{
+    start();
+    QTemporaryFile subtitle;
+    ASSERT_TRUE(subtitle.open());
+    QMetaObject::invokeMethod(work.get(), "slot_addSubtitle", Q_ARG(QString, subtitle.fileName()));
+    EXPECT_TRUE(engine.waitCall("IVDPlay::addSubtitle(" + subtitle.fileName().toStdString()));
 }
 
 TEST_F(WorkObject, SetsUp3D)

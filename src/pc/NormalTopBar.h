@@ -1,0 +1,25 @@
+// The title bar while something plays: it hovers over the picture instead of taking room from it. GUI thread.
+#pragma once
+
+#include "NormalTransparentBar.h"
+
+class NormalTitleBar;
+
+class NormalTopBar final : public NormalTransparentBar {
+    Q_OBJECT
+
+public:
+    // movedWindow: what a drag of the bar moves.
+    explicit NormalTopBar(QWidget *movedWindow);
+
+    [[nodiscard]] NormalTitleBar *titleBar() const { return m_titleBar; }
+
+    [[nodiscard]] bool takesMouseAt(const QPoint &position) const override;
+
+protected:
+    [[nodiscard]] QRect panelRect() const override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    NormalTitleBar *m_titleBar;
+};

@@ -1,0 +1,209 @@
+#include "PlayOverlays.h"
+
+#include "NormalLastPositionLabel.h"
+#include "NormalMetaView.h"
+#include "NormalOperateBar.h"
+#include "NormalPlaySpeedBar.h"
+#include "NormalTipLabel.h"
+#include "NormalTitleBar.h"
+#include "NormalTopBar.h"
+#include "NormalTvshowAutoPlayLabel.h"
+#include "VolumeControl.h"
+
+#include "keys/AppEventFilter.h"
+#include "player/QPlayer.h"
+#include "ui/OverlayHost.h"
+
+#include <QApplication>
+#include <QCursor>
+
+namespace {
+
+constexpr int kRestMs = 3000;
+
+// Design pixels from the edges of the picture.
+constexpr int kSide = 24;
+constexpr int kUnderTitle = 64;
+constexpr int kUnderSpeed = 112;
+constexpr int kAboveBar = 128;
+
+enum Level { InformationLevel, NoteLevel, BarLevel };
+
+int tipOf(QPlayer::QPlayerStatus status)
+{
+    switch (status) {
+    case QPlayer::QPlayerStatus_Playing:
+        return NormalTipLabel::Playing;
+    case QPlayer::QPlayerStatus_Paused:
+        return NormalTipLabel::Paused;
+    case QPlayer::QPlayerStatus_Forward:
+        return NormalTipLabel::FastForward;
+    case QPlayer::QPlayerStatus_Rewind:
+        return NormalTipLabel::Rewind;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *episodes)
+    : QObject(window)
+    , m_host(new OverlayHost(window, area))
+    , m_bar(new NormalOperateBar(window))
+    , m_topBar(new NormalTopBar(window))
+    , m_meta(new NormalMetaView(window))
+    , m_tip(new NormalTipLabel(window))
+    , m_speed(new NormalPlaySpeedBar(window))
+    , m_lastPosition(new NormalLastPositionLabel(window))
+    , m_nextEpisode(new NormalTvshowAutoPlayLabel(episodes, window))
+{
+    m_restTimer.setSingleShot(true);
+    m_restTimer.setInterval(kRestMs);
+    connect(&m_restTimer, &QTimer::timeout, this, [this] {
+        if (rest())
+            emit rested();
+    });
+    m_bar->setKeyText([](int operation) {
+        return AppEventFilter::instance()->keySequence(false, operation).toString(QKeySequence::NativeText);
+    });
+    // Nothing answers these two yet.
+    m_bar->setPlaceAvailable(TransportPlace::Preview, false);
+    m_bar->setPlaceAvailable(TransportPlace::Playlist, false);
+    m_tip->setSpeedText([] {
+        auto *player = QPlayer::instance();
+        return player->speedTexts().value(player->speedIndex());
+    });
+    place();
+}
+
+PlayOverlays::~PlayOverlays() = default;
+
+void PlayOverlays::place()
+{
+    using Anchor = OverlayRule::Anchor;
+    const struct {
+        QWidget *widget;
+        OverlayRule rule;
+    } rows[] = {
+        {m_bar, {Anchor::Bottom, {}, BarLevel}},
+        {m_topBar, {Anchor::Top, {}, BarLevel}},
+        {m_speed, {Anchor::TopLeft, {kSide, kUnderTitle, kSide, 0}, InformationLevel}},
+        {m_meta, {Anchor::TopLeft, {kSide, kUnderSpeed, kSide, 0}, InformationLevel}},
+        {m_tip, {Anchor::TopRight, {kSide, kUnderTitle, kSide, 0}, InformationLevel}},
+        {m_lastPosition, {Anchor::BottomLeft, {kSide, 0, kSide, kAboveBar}, NoteLevel}},
+        {m_nextEpisode, {Anchor::BottomRight, {kSide, 0, kSide, kAboveBar}, NoteLevel}},
+    };
+    for (const auto &row : rows)
+        m_host->add(row.widget, row.rule);
+}
+
+void PlayOverlays::connectPlayer(QPlayer *player)
+{
+    connect(player, &QPlayer::sig_playStatusChanged, m_bar, &NormalOperateBar::slot_setUiByStatus);
+    connect(player, &QPlayer::sig_timeChanged, m_bar, &NormalOperateBar::slot_setTimeInfo);
+    connect(player, &QPlayer::sig_seekState, m_bar, &NormalOperateBar::slot_responseSeekState);
+    connect(player, &QPlayer::sig_volumeChanged, m_bar->volumeControl(), &VolumeControl::showVolume);
+    connect(player, &QPlayer::sig_muteChanged, m_bar->volumeControl(), &VolumeControl::showMute);
+    connect(player, &QPlayer::sig_playMetaChanged, m_meta, &NormalMetaView::slot_setMetaInfo);
+    connect(player, &QPlayer::sig_playMetaChanged, m_nextEpisode,
+            &NormalTvshowAutoPlayLabel::slot_setMetaInfo);
+    connect(player, &QPlayer::sig_playStatusChanged, this, [this](QPlayer::QPlayerStatus status) {
+        if (!m_hasSource)
+            return;
+        m_tip->showTip(tipOf(status));
+        m_speed->slot_updateSpeed(status);
+    });
+}
+
+void PlayOverlays::beginSource(const QString &displayName, const QString &path)
+{
+    m_hasSource = true;
+    m_bar->reset(displayName);
+    m_bar->slot_setTimeInfo(0, 0);
+    m_meta->setDisplayName(displayName);
+    m_speed->disappear();
+    m_lastPosition->slot_hideLabel();
+    m_nextEpisode->slot_hideLabel();
+    m_nextEpisode->setSource(path);
+    m_topBar->titleBar()->setText(displayName);
+    wake();
+}
+
+void PlayOverlays::endSource()
+{
+    m_hasSource = false;
+    m_staying = false;
+    m_restTimer.stop();
+    m_lastPosition->slot_hideLabel();
+    m_nextEpisode->slot_hideLabel();
+    m_meta->clear();
+    m_bar->reset({});
+    m_host->hideAll();
+}
+
+void PlayOverlays::setStaying(bool staying)
+{
+    m_staying = staying;
+    wake();
+}
+
+void PlayOverlays::setFullScreen(bool fullScreen)
+{
+    m_bar->setFullScreen(fullScreen);
+}
+
+void PlayOverlays::setMaximized(bool maximized)
+{
+    m_topBar->titleBar()->setMaximized(maximized);
+    m_bar->setGripEnabled(!maximized);
+}
+
+void PlayOverlays::wake()
+{
+    if (!m_hasSource)
+        return;
+    m_bar->appear();
+    m_topBar->appear();
+    m_restTimer.start();
+}
+
+bool PlayOverlays::rest()
+{
+    if (!m_hasSource || m_staying)
+        return false;
+    if (isHeld()) {
+        m_restTimer.start();
+        return false;
+    }
+    m_restTimer.stop();
+    m_bar->disappear();
+    m_topBar->disappear();
+    return true;
+}
+
+bool PlayOverlays::isAwake() const
+{
+    return m_bar->isWanted();
+}
+
+bool PlayOverlays::isHeld() const
+{
+    if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr
+        || QApplication::mouseButtons() != Qt::NoButton)
+        return true;
+    const QPoint pointer = QCursor::pos();
+    for (const OverlayWidget *bar :
+         {static_cast<const OverlayWidget *>(m_bar), static_cast<const OverlayWidget *>(m_topBar)}) {
+        if (bar->isVisible() && bar->takesMouseAt(bar->mapFromGlobal(pointer)))
+            return true;
+    }
+    return false;
+}
+
+void PlayOverlays::retranslate()
+{
+    m_bar->retranslate();
+    m_speed->retranslate();
+    m_topBar->titleBar()->retranslate();
+}

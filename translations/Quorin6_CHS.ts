@@ -49,6 +49,73 @@
     </message>
 </context>
 <context>
+    <name>DropRule</name>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer.</source>
+        <translation>“%1”不是这台电脑上的文件。</translation>
+    </message>
+    <message>
+        <source>%1 of them are not files on this computer, the first is &quot;%2&quot;.</source>
+        <translation>其中 %1 个不是这台电脑上的文件，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>文件“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>%1 files do not exist, the first is &quot;%2&quot;.</source>
+        <translation>%1 个文件不存在，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; can&apos;t be read.</source>
+        <translation>无法读取文件“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 files can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>无法读取 %1 个文件，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be read.</source>
+        <translation>无法读取文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 folders can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>无法读取 %1 个文件夹，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>There is nothing in the folder &quot;%1&quot; that can be played.</source>
+        <translation>文件夹“%1”中没有可播放的内容。</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1 folders that can be played, the first is &quot;%2&quot;.</source>
+        <translation>%1 个文件夹中没有可播放的内容，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a media file.</source>
+        <translation>“%1”不是媒体文件。</translation>
+    </message>
+    <message>
+        <source>%1 of them are not media files, the first is &quot;%2&quot;.</source>
+        <translation>其中 %1 个不是媒体文件，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; can be added while a film plays.</source>
+        <translation>播放影片时才能添加字幕文件“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 subtitle files can be added while a film plays, the first is &quot;%2&quot;.</source>
+        <translation>播放影片时才能添加 %1 个字幕文件，第一个是“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and what follows was left out.</source>
+        <translation>“%1”及其后的内容已略去。</translation>
+    </message>
+    <message>
+        <source>&quot;%2&quot; and what follows was left out.</source>
+        <translation>“%2”及其后的内容已略去。</translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -246,6 +313,26 @@
         <source>Open Media...</source>
         <translation>打开媒体...</translation>
     </message>
+    <message>
+        <source>Subtitle Files (%1)</source>
+        <translation>字幕文件 (%1)</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished">视频控制...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished">色彩调整...</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished">加载字幕...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">关于</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -320,6 +407,22 @@
         <source>Open Media...</source>
         <translation>打开媒体...</translation>
     </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>最近播放</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the list of recently played files</source>
+        <translation>清除最近播放列表</translation>
+    </message>
+    <message>
+        <source>Drop to play</source>
+        <translation>松开即可播放</translation>
+    </message>
 </context>
 <context>
     <name>NormalTipLabel</name>
@@ -369,6 +472,10 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished">菜单</translation>
     </message>
 </context>
 <context>
@@ -635,6 +742,17 @@
     <message>
         <source>None</source>
         <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>RecentCard</name>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Last playback at %1</source>
+        <translation>上次播放至 %1</translation>
     </message>
 </context>
 <context>

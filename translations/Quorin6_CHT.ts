@@ -49,6 +49,73 @@
     </message>
 </context>
 <context>
+    <name>DropRule</name>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer.</source>
+        <translation>「%1」不是這台電腦上的檔案。</translation>
+    </message>
+    <message>
+        <source>%1 of them are not files on this computer, the first is &quot;%2&quot;.</source>
+        <translation>其中 %1 個不是這台電腦上的檔案，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>檔案「%1」不存在。</translation>
+    </message>
+    <message>
+        <source>%1 files do not exist, the first is &quot;%2&quot;.</source>
+        <translation>%1 個檔案不存在，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; can&apos;t be read.</source>
+        <translation>無法讀取檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>%1 files can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>無法讀取 %1 個檔案，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be read.</source>
+        <translation>無法讀取資料夾「%1」。</translation>
+    </message>
+    <message>
+        <source>%1 folders can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>無法讀取 %1 個資料夾，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>There is nothing in the folder &quot;%1&quot; that can be played.</source>
+        <translation>資料夾「%1」中沒有可播放的內容。</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1 folders that can be played, the first is &quot;%2&quot;.</source>
+        <translation>%1 個資料夾中沒有可播放的內容，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a media file.</source>
+        <translation>「%1」不是媒體檔案。</translation>
+    </message>
+    <message>
+        <source>%1 of them are not media files, the first is &quot;%2&quot;.</source>
+        <translation>其中 %1 個不是媒體檔案，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; can be added while a film plays.</source>
+        <translation>播放影片時才能加入字幕檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>%1 subtitle files can be added while a film plays, the first is &quot;%2&quot;.</source>
+        <translation>播放影片時才能加入 %1 個字幕檔案，第一個是「%2」。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and what follows was left out.</source>
+        <translation>「%1」及其後的內容已略去。</translation>
+    </message>
+    <message>
+        <source>&quot;%2&quot; and what follows was left out.</source>
+        <translation>「%2」及其後的內容已略去。</translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -246,6 +313,26 @@
         <source>Open Media...</source>
         <translation>開啟媒體...</translation>
     </message>
+    <message>
+        <source>Subtitle Files (%1)</source>
+        <translation>字幕檔案 (%1)</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished">視訊控制...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished">色彩調整...</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished">載入字幕...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">關於</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -320,6 +407,22 @@
         <source>Open Media...</source>
         <translation>開啟媒體...</translation>
     </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>最近播放</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the list of recently played files</source>
+        <translation>清除最近播放清單</translation>
+    </message>
+    <message>
+        <source>Drop to play</source>
+        <translation>放開即可播放</translation>
+    </message>
 </context>
 <context>
     <name>NormalTipLabel</name>
@@ -369,6 +472,10 @@
     <message>
         <source>Close</source>
         <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished">選單</translation>
     </message>
 </context>
 <context>
@@ -635,6 +742,17 @@
     <message>
         <source>None</source>
         <translation>無</translation>
+    </message>
+</context>
+<context>
+    <name>RecentCard</name>
+    <message>
+        <source>Not found</source>
+        <translation>找不到</translation>
+    </message>
+    <message>
+        <source>Last playback at %1</source>
+        <translation>上次播放至 %1</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,73 @@
     </message>
 </context>
 <context>
+    <name>DropRule</name>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer.</source>
+        <translation>&quot;%1&quot; no es un archivo de este equipo.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not files on this computer, the first is &quot;%2&quot;.</source>
+        <translation>%1 de ellos no son archivos de este equipo; el primero es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>El archivo &quot;%1&quot; no existe.</translation>
+    </message>
+    <message>
+        <source>%1 files do not exist, the first is &quot;%2&quot;.</source>
+        <translation>%1 archivos no existen; el primero es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; can&apos;t be read.</source>
+        <translation>No se puede leer el archivo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 files can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>No se pueden leer %1 archivos; el primero es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be read.</source>
+        <translation>No se puede leer la carpeta &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 folders can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>No se pueden leer %1 carpetas; la primera es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the folder &quot;%1&quot; that can be played.</source>
+        <translation>En la carpeta &quot;%1&quot; no hay nada que se pueda reproducir.</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1 folders that can be played, the first is &quot;%2&quot;.</source>
+        <translation>En %1 carpetas no hay nada que se pueda reproducir; la primera es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a media file.</source>
+        <translation>&quot;%1&quot; no es un archivo multimedia.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not media files, the first is &quot;%2&quot;.</source>
+        <translation>%1 de ellos no son archivos multimedia; el primero es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; can be added while a film plays.</source>
+        <translation>El archivo de subtítulos &quot;%1&quot; se puede añadir mientras se reproduce una película.</translation>
+    </message>
+    <message>
+        <source>%1 subtitle files can be added while a film plays, the first is &quot;%2&quot;.</source>
+        <translation>%1 archivos de subtítulos se pueden añadir mientras se reproduce una película; el primero es &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and what follows was left out.</source>
+        <translation>Se ha omitido &quot;%1&quot; y lo que sigue.</translation>
+    </message>
+    <message>
+        <source>&quot;%2&quot; and what follows was left out.</source>
+        <translation>Se ha omitido &quot;%2&quot; y lo que sigue.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -246,6 +313,26 @@
         <source>Open Media...</source>
         <translation>Abrir medio...</translation>
     </message>
+    <message>
+        <source>Subtitle Files (%1)</source>
+        <translation>Archivos de subtítulos (%1)</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished">Control de vídeo...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished">Ajuste de color...</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished">Cargar subtítulos...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">Acerca de</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -320,6 +407,22 @@
         <source>Open Media...</source>
         <translation>Abrir medio...</translation>
     </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Reproducido recientemente</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Clear the list of recently played files</source>
+        <translation>Borrar la lista de reproducidos recientemente</translation>
+    </message>
+    <message>
+        <source>Drop to play</source>
+        <translation>Suelte para reproducir</translation>
+    </message>
 </context>
 <context>
     <name>NormalTipLabel</name>
@@ -369,6 +472,10 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished">Menú</translation>
     </message>
 </context>
 <context>
@@ -635,6 +742,17 @@
     <message>
         <source>None</source>
         <translation>Ninguno</translation>
+    </message>
+</context>
+<context>
+    <name>RecentCard</name>
+    <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
+    </message>
+    <message>
+        <source>Last playback at %1</source>
+        <translation>Última reproducción en %1</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,73 @@
     </message>
 </context>
 <context>
+    <name>DropRule</name>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer.</source>
+        <translation>« %1 » n’est pas un fichier de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not files on this computer, the first is &quot;%2&quot;.</source>
+        <translation>%1 d’entre eux ne sont pas des fichiers de cet ordinateur, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Le fichier « %1 » n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 files do not exist, the first is &quot;%2&quot;.</source>
+        <translation>%1 fichiers n’existent pas, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Le fichier « %1 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>%1 files can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>%1 fichiers ne peuvent pas être lus, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Le dossier « %1 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>%1 folders can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>%1 dossiers ne peuvent pas être lus, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>There is nothing in the folder &quot;%1&quot; that can be played.</source>
+        <translation>Le dossier « %1 » ne contient rien qui puisse être lu.</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1 folders that can be played, the first is &quot;%2&quot;.</source>
+        <translation>%1 dossiers ne contiennent rien qui puisse être lu, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a media file.</source>
+        <translation>« %1 » n’est pas un fichier multimédia.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not media files, the first is &quot;%2&quot;.</source>
+        <translation>%1 d’entre eux ne sont pas des fichiers multimédias, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; can be added while a film plays.</source>
+        <translation>Le fichier de sous-titres « %1 » peut être ajouté pendant la lecture d’un film.</translation>
+    </message>
+    <message>
+        <source>%1 subtitle files can be added while a film plays, the first is &quot;%2&quot;.</source>
+        <translation>%1 fichiers de sous-titres peuvent être ajoutés pendant la lecture d’un film, le premier est « %2 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and what follows was left out.</source>
+        <translation>« %1 » et la suite ont été laissés de côté.</translation>
+    </message>
+    <message>
+        <source>&quot;%2&quot; and what follows was left out.</source>
+        <translation>« %2 » et la suite ont été laissés de côté.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -246,6 +313,26 @@
         <source>Open Media...</source>
         <translation>Ouvrir un média...</translation>
     </message>
+    <message>
+        <source>Subtitle Files (%1)</source>
+        <translation>Fichiers de sous-titres (%1)</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished">Contrôle vidéo...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished">Réglage des couleurs...</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished">Charger des sous-titres...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">À propos</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -320,6 +407,22 @@
         <source>Open Media...</source>
         <translation>Ouvrir un média...</translation>
     </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Lus récemment</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Clear the list of recently played files</source>
+        <translation>Effacer la liste des fichiers lus récemment</translation>
+    </message>
+    <message>
+        <source>Drop to play</source>
+        <translation>Déposez pour lire</translation>
+    </message>
 </context>
 <context>
     <name>NormalTipLabel</name>
@@ -369,6 +472,10 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished">Menu</translation>
     </message>
 </context>
 <context>
@@ -635,6 +742,17 @@
     <message>
         <source>None</source>
         <translation>Aucun</translation>
+    </message>
+</context>
+<context>
+    <name>RecentCard</name>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Last playback at %1</source>
+        <translation>Dernière lecture à %1</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,73 @@
     </message>
 </context>
 <context>
+    <name>DropRule</name>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer.</source>
+        <translation>„%1“ ist keine Datei auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not files on this computer, the first is &quot;%2&quot;.</source>
+        <translation>%1 davon sind keine Dateien auf diesem Computer, die erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 files do not exist, the first is &quot;%2&quot;.</source>
+        <translation>%1 Dateien gibt es nicht, die erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 files can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>%1 Dateien können nicht gelesen werden, die erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; can&apos;t be read.</source>
+        <translation>Der Ordner „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 folders can&apos;t be read, the first is &quot;%2&quot;.</source>
+        <translation>%1 Ordner können nicht gelesen werden, der erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the folder &quot;%1&quot; that can be played.</source>
+        <translation>Im Ordner „%1“ ist nichts, was abgespielt werden kann.</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1 folders that can be played, the first is &quot;%2&quot;.</source>
+        <translation>In %1 Ordnern ist nichts, was abgespielt werden kann, der erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a media file.</source>
+        <translation>„%1“ ist keine Mediendatei.</translation>
+    </message>
+    <message>
+        <source>%1 of them are not media files, the first is &quot;%2&quot;.</source>
+        <translation>%1 davon sind keine Mediendateien, die erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; can be added while a film plays.</source>
+        <translation>Die Untertiteldatei „%1“ kann hinzugefügt werden, während ein Film läuft.</translation>
+    </message>
+    <message>
+        <source>%1 subtitle files can be added while a film plays, the first is &quot;%2&quot;.</source>
+        <translation>%1 Untertiteldateien können hinzugefügt werden, während ein Film läuft, die erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and what follows was left out.</source>
+        <translation>„%1“ und alles danach wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>&quot;%2&quot; and what follows was left out.</source>
+        <translation>„%2“ und alles danach wurde weggelassen.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorNote</name>
     <message>
         <source>Your device does not support hardware decoding for H.265 4K videos, and we&apos;ve automatically switched to the software decoding mode, which might possibly cause unsmooth playback.</source>
@@ -246,6 +313,26 @@
         <source>Open Media...</source>
         <translation>Medium öffnen...</translation>
     </message>
+    <message>
+        <source>Subtitle Files (%1)</source>
+        <translation>Untertiteldateien (%1)</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation type="unfinished">Videosteuerung...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation type="unfinished">Farbanpassung...</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation type="unfinished">Untertitel laden...</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">Über</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -320,6 +407,22 @@
         <source>Open Media...</source>
         <translation>Medium öffnen...</translation>
     </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Zuletzt abgespielt</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Clear the list of recently played files</source>
+        <translation>Liste der zuletzt abgespielten Dateien leeren</translation>
+    </message>
+    <message>
+        <source>Drop to play</source>
+        <translation>Loslassen zum Abspielen</translation>
+    </message>
 </context>
 <context>
     <name>NormalTipLabel</name>
@@ -369,6 +472,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished">Menü</translation>
     </message>
 </context>
 <context>
@@ -635,6 +742,17 @@
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>RecentCard</name>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Last playback at %1</source>
+        <translation>Zuletzt abgespielt bis %1</translation>
     </message>
 </context>
 <context>

@@ -28,3 +28,13 @@ inline bool reportDifference(const char *what, const char *unit, const std::vect
     std::fflush(stdout);
     return difference <= limit;
 }
+
+// The same for a share of our own that has nothing to be compared with.
+inline bool reportShare(const char *what, const std::vector<double> &percent, double limit)
+{
+    const double share = median(percent);
+    std::printf("%-44s %9.1f %9s %-3s %8.1f  <= %-6.1f %s\n", what, share, "-", "%", share, limit,
+                share <= limit ? "kept" : "MISSED");
+    std::fflush(stdout);
+    return share <= limit;
+}

@@ -8,10 +8,10 @@
 #include "ChildProcess.h"
 #include "Report.h"
 #include "Screen.h"
+#include "Side.h"
 
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,42 +32,6 @@ double secondsSince(Clock::time_point start)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-struct Side {
-    std::vector<std::string> command;
-    std::string home;
-    std::vector<std::string> variables;
-
-    Side(std::vector<std::string> line, const std::string &folder, const std::vector<std::string> &more)
-        : command(std::move(line))
-        , home(folder)
-        , variables(more)
-    {
-        for (const auto &[name, place] :
-             {std::pair("HOME", ""), std::pair("XDG_DATA_HOME", "/data"),
-              std::pair("XDG_CONFIG_HOME", "/config"), std::pair("XDG_CACHE_HOME", "/cache"),
-              std::pair("XDG_RUNTIME_DIR", "/run"), std::pair("TMPDIR", "/tmp")})
-            variables.push_back(std::string(name) + '=' + home + place);
-    }
-
-    // Caches stay, as on a user's machine; what was learned of the clip does not: every run begins at its
-    // start.
-    void prepare() const
-    {
-        namespace fs = std::filesystem;
-        for (const char *name : {"/data", "/config", "/tmp"})
-            fs::remove_all(home + name);
-        for (const char *name : {"/data", "/config", "/cache", "/run", "/tmp", "/Documents", "/Pictures"})
-            fs::create_directories(home + name);
-        fs::permissions(home + "/run", fs::perms::owner_all);
-    }
-};
-
-[[noreturn]] void giveUp(const Side &side, const char *why)
-{
-    std::fprintf(stderr, "bench_playback: %s: %s\n", side.command.front().c_str(), why);
-    std::exit(1);
-}
-
 // A run of one side up to its first picture; ends politely.
 class Run final {
 public:
@@ -75,7 +39,7 @@ public:
         : m_screen(screen)
         , m_side(side)
     {
-        side.prepare();
+        side.forgetClip();
         if (!screen.waitForNoColour(Marker, Patience))
             giveUp(side, "an earlier picture stays on the screen");
         const Clock::time_point start = Clock::now();

@@ -1,0 +1,110 @@
+#include "FadeWatch.h"
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace {
+
+struct Freed {
+    void operator()(void *memory) const { std::free(memory); }
+};
+template<typename T>
+using Reply = std::unique_ptr<T, Freed>;
+
+// Steps further apart belong to two fades: bars rest for seconds between them.
+constexpr std::uint32_t PauseMs = 1000;
+
+} // namespace
+
+FadeWatch::FadeWatch(pid_t process)
+    : m_connection(xcb_connect(nullptr, nullptr))
+{
+    if (xcb_connection_has_error(m_connection))
+        return;
+    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    m_owner = atom("_NET_WM_PID");
+    m_opacity = atom("_NET_WM_WINDOW_OPACITY");
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_connection, m_root, XCB_CW_EVENT_MASK, &mask);
+    for (const std::uint32_t window : valuesOf(m_root, atom("_NET_CLIENT_LIST"))) {
+        const std::vector<std::uint32_t> owner = valuesOf(window, m_owner);
+        if (!owner.empty() && owner.front() == std::uint32_t(process))
+            m_program = programOf(window);
+    }
+    watchWindows();
+}
+
+FadeWatch::~FadeWatch()
+{
+    xcb_disconnect(m_connection);
+}
+
+int FadeWatch::descriptor() const
+{
+    return xcb_get_file_descriptor(m_connection);
+}
+
+void FadeWatch::read()
+{
+    bool isTreeChanged = false;
+    while (xcb_generic_event_t *taken = xcb_poll_for_event(m_connection)) {
+        const Reply<xcb_generic_event_t> event(taken);
+        if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY) {
+            isTreeChanged = true;
+            continue;
+        }
+        const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(taken);
+        if (change->atom != m_opacity)
+            continue;
+        const auto last = m_lastStep.find(change->window);
+        if (last != m_lastStep.end() && change->time - last->second <= PauseMs)
+            m_intervals.push_back(change->time - last->second);
+        else
+            ++m_fades;
+        m_lastStep[change->window] = change->time;
+    }
+    if (isTreeChanged)
+        watchWindows();
+}
+
+// What hovers over a film is no window of the window manager's, so all windows on the screen are looked
+// through.
+void FadeWatch::watchWindows()
+{
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, m_root), nullptr));
+    if (!tree || m_program == 0)
+        return;
+    const xcb_window_t *windows = xcb_query_tree_children(tree.get());
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        if (programOf(windows[i]) == m_program)
+            xcb_change_window_attributes(m_connection, windows[i], XCB_CW_EVENT_MASK, &mask);
+    }
+    xcb_flush(m_connection);
+}
+
+std::uint32_t FadeWatch::programOf(std::uint32_t window) const
+{
+    return window & ~xcb_get_setup(m_connection)->resource_id_mask;
+}
+
+std::vector<std::uint32_t> FadeWatch::valuesOf(std::uint32_t window, std::uint32_t property) const
+{
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection, xcb_get_property(m_connection, 0, window, property, XCB_ATOM_ANY, 0, 1024), nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto *first = static_cast<const std::uint32_t *>(xcb_get_property_value(reply.get()));
+    return {first, first + reply->value_len};
+}
+
+std::uint32_t FadeWatch::atom(const char *name) const
+{
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        m_connection, xcb_intern_atom(m_connection, 0, std::uint16_t(std::strlen(name)), name), nullptr));
+    return reply ? reply->atom : std::uint32_t(XCB_ATOM_NONE);
+}

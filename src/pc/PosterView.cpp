@@ -53,6 +53,14 @@ QPixmap pictureOf(const QVariant &data)
     return {};
 }
 
+template<class Picture>
+Picture covering(const Picture &picture, const QSize &size)
+{
+    if (picture.isNull() || size.isEmpty())
+        return {};
+    return picture.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+}
+
 bool isToBeRead(const QVariant &data)
 {
     return (data.userType() == QMetaType::QString || data.userType() == QMetaType::QByteArray)
@@ -66,7 +74,6 @@ PosterView::PosterView(QWidget *parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setPoster({}, false);
 }
 
 PosterView::~PosterView()
@@ -81,49 +88,55 @@ void PosterView::setPoster(const QVariant &source, bool animate)
     const QPixmap ready = pictureOf(source);
     if (!ready.isNull()) {
         ++m_latest;
-        present(ready, false, animate);
-        return;
-    }
-    if (!isToBeRead(source) && m_isDefault && !m_picture.isNull()) {
+        present(ready, {}, false, animate);
+    } else if (isToBeRead(source) || !m_isDefault || m_picture.isNull()) {
+        load(source, animate);
+    } else {
         ++m_latest;
-        return;
     }
-    load(source, animate);
 }
 
 void PosterView::load(const QVariant &source, bool animate)
 {
     struct Read {
         QImage image;
+        QImage scaled;
         bool isDefault{false};
     };
     const quint64 number = ++m_latest;
+    const QSize shown = size() * devicePixelRatioF();
     if (!m_worker)
         m_worker = std::make_unique<ThreadWorker>();
     const auto read = std::make_shared<Read>();
     m_worker->addTask(
-        [read, source] {
+        [read, source, shown] {
             if (isToBeRead(source))
                 read->image = decodedData(source);
-            if (!read->image.isNull())
-                return;
-            if (isToBeRead(source) && source.userType() == QMetaType::QString)
-                qInfo().noquote() << "[Start view] picture can't be read:" << source.toString();
-            read->image = decodedFile(QString::fromLatin1(DefaultPicture));
-            read->isDefault = true;
+            read->isDefault = read->image.isNull();
+            if (read->isDefault) {
+                if (isToBeRead(source) && source.userType() == QMetaType::QString)
+                    qInfo().noquote() << "[Start view] picture can't be read:" << source.toString();
+                read->image = decodedFile(QString::fromLatin1(DefaultPicture));
+            }
+            read->scaled = covering(read->image, shown);
         },
-        [this, read, number, animate] {
-            if (number == m_latest)
-                present(QPixmap::fromImage(read->image), read->isDefault, animate);
+        [this, read, number, animate, shown] {
+            if (number != m_latest)
+                return;
+            // The page may have got another size in the meantime.
+            const bool fits = shown == size() * devicePixelRatioF();
+            present(QPixmap::fromImage(read->image), fits ? QPixmap::fromImage(read->scaled) : QPixmap(),
+                    read->isDefault, animate);
         });
 }
 
-void PosterView::present(const QPixmap &picture, bool isDefault, bool animate)
+void PosterView::present(const QPixmap &picture, const QPixmap &scaled, bool isDefault, bool animate)
 {
     m_former = m_picture;
     m_formerScaled = m_scaled;
     m_picture = picture;
-    m_scaled = {};
+    m_scaled = scaled;
+    m_scaled.setDevicePixelRatio(devicePixelRatioF());
     m_isDefault = isDefault;
     const double shade = isDefault ? 0.0 : 1.0;
     if (animate && isVisible()) {
@@ -184,6 +197,14 @@ void PosterView::startAnimate(QString name, bool forward)
     animation->start();
 }
 
+void PosterView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // Not before: now the size is known, and a program that starts with a film never reads it.
+    if (m_latest == 0)
+        setPoster({}, false);
+}
+
 void PosterView::resizeEvent(QResizeEvent *event)
 {
     m_scaled = {};
@@ -210,7 +231,7 @@ void PosterView::drawCovering(QPainter &painter, const QPixmap &picture, QPixmap
         return;
     const qreal ratio = devicePixelRatioF();
     if (scaled.isNull()) {
-        scaled = picture.scaled(size() * ratio, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        scaled = covering(picture, size() * ratio);
         scaled.setDevicePixelRatio(ratio);
     }
     const QSize shown = scaled.size() / ratio;

@@ -50,10 +50,12 @@ signals:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void load(const QVariant &source, bool animate);
-    void present(const QPixmap &picture, bool isDefault, bool animate);
+    // scaled: the picture in the size shown, or null.
+    void present(const QPixmap &picture, const QPixmap &scaled, bool isDefault, bool animate);
     void drawCovering(QPainter &painter, const QPixmap &picture, QPixmap &scaled) const;
 
     std::unique_ptr<ThreadWorker> m_worker;

@@ -1,5 +1,7 @@
 #include "playcontrol/FilePresence.h"
 
+#include "support/Eventually.h"
+
 #include <QSemaphore>
 #include <QSet>
 #include <QSignalSpy>
@@ -22,7 +24,7 @@ TEST(FilePresenceTest, TellsOfEachPathWhetherItIsThere)
     FilePresence presence;
     QSignalSpy spy(&presence, &FilePresence::checked);
     presence.check({file.fileName(), file.fileName() + ".gone", "D"});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return spy.size() == 3; }, kWaitMs));
+    ASSERT_EVENTUALLY(spy.size() == 3);
     QSet<QString> present;
     for (const QList<QVariant> &answer : qAsConst(spy)) {
         if (answer.at(1).toBool())
@@ -68,7 +70,7 @@ TEST(FilePresenceTest, LaterQuestionReplacesAnEarlierOne)
     ASSERT_TRUE(begun.tryAcquire(1, kWaitMs));
     presence.check({"/new.mkv", "/newer.mkv"});
     gate.release();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return spy.size() == 2; }, kWaitMs));
+    ASSERT_EVENTUALLY(spy.size() == 2);
     for (const QList<QVariant> &answer : qAsConst(spy))
         EXPECT_NE(answer.at(0).toString(), "/old.mkv");
     presence.check({});

@@ -3,6 +3,8 @@
 #include "ui/LookTokens.h"
 #include "ui/OverlayHost.h"
 
+#include "support/Eventually.h"
+
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -79,7 +81,7 @@ TEST_F(NormalLastPositionLabelTest, ATimerOfOneSecondLooksAtTheClock)
     label.setPosition(2530, {});
     label.slot_showLabel();
     now += 8000;
-    QTRY_VERIFY_WITH_TIMEOUT(!label.isOpen(), 5000);
+    ASSERT_EVENTUALLY(!label.isOpen());
 }
 
 TEST_F(NormalLastPositionLabelTest, ClickSeeksAndAsksForTheTracksHalfASecondLater)
@@ -180,7 +182,7 @@ TEST(NormalLastPositionLabelHostTest, HostShowsItAsAWindowAndTakesItAwayWhenItEn
     now = 8000;
     label.tick();
     EXPECT_FALSE(host.isShown(&label));
-    QTRY_VERIFY_WITH_TIMEOUT(!label.isVisible(), 5000);
+    ASSERT_EVENTUALLY(!label.isVisible());
     label.slot_showLabel();
     EXPECT_TRUE(label.isVisible());
 }

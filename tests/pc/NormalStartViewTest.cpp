@@ -12,6 +12,8 @@
 #include "ui/StyleLoader.h"
 #include "ui/StyleSheetScaler.h"
 
+#include "support/Eventually.h"
+
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
@@ -26,8 +28,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int kWaitMs = 10000;
 
 QByteArray artwork(int number)
 {
@@ -99,9 +99,9 @@ protected:
         m_view->setRecent(recentFiles(recentCount));
         m_view->show();
         QApplication::setActiveWindow(m_view.get());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return poster.size() == 1; }, kWaitMs));
+        ASSERT_EVENTUALLY(poster.size() == 1);
         if (recentCount > 6) {
-            ASSERT_TRUE(QTest::qWaitFor([&] { return m_view->cards().at(6)->isMissing(); }, kWaitMs));
+            ASSERT_EVENTUALLY(m_view->cards().at(6)->isMissing());
         }
     }
     [[nodiscard]] RecentCard *card(int index) const { return m_view->cards().at(index); }
@@ -305,7 +305,7 @@ TEST_F(NormalStartViewTest, FolderThatDoesNotAnswerDoesNotHoldThePageUp)
     EXPECT_FALSE(view.grab().isNull());
     EXPECT_FALSE(view.cards().at(0)->isMissing());
     gate.release(3);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.cards().at(0)->isMissing(); }, kWaitMs));
+    ASSERT_EVENTUALLY(view.cards().at(0)->isMissing());
 }
 
 TEST_F(NormalStartViewTest, BrokenPictureGivesThePlaceholder)

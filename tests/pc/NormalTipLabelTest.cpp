@@ -4,6 +4,8 @@
 
 #include "core/SettingsKeys.h"
 
+#include "support/Eventually.h"
+
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -49,7 +51,7 @@ TEST_F(TipLabels, GoesByItself)
 {
     label.showTip(NormalTipLabel::Paused);
     EXPECT_TRUE(label.isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(!label.isVisible(), NormalTipLabel::ShownMs * 3);
+    ASSERT_EVENTUALLY(!label.isVisible());
 }
 
 TEST_F(TipLabels, StaysAwayWhenTheSettingSaysSo)

@@ -17,6 +17,8 @@
 #include "ui/LookTokens.h"
 #include "ui/TransportIcons.h"
 
+#include "support/Eventually.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
@@ -128,7 +130,7 @@ TEST_P(TransportPictures, HoverAndKeyboard)
     const SeekTrack track = progress->track();
     const QPoint played(progress->x() + qRound(track.xOf(500)),
                         scaled(kHeight) - bar.height() + progress->y() + qFloor(track.groove().center().y()));
-    QTRY_COMPARE(picture().pixel(played), Look::AccentHover); // it warms up under the pointer
+    ASSERT_EVENTUALLY(picture().pixel(played) == Look::AccentHover); // it warms up under the pointer
     const QImage image = picture();
     keep(image, QStringLiteral("hover"));
     const QImage rested = [&] {

@@ -2,6 +2,8 @@
 
 #include "ui/OverlayWidget.h"
 
+#include "support/Eventually.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -100,12 +102,12 @@ TEST_F(OverlayHosts, StandsAtItsAnchorAndFollowsMoveAndResize)
     EXPECT_EQ(card->geometry(), QRect(origin() + QPoint(24, 460 - 16 - 40), QSize(120, 40)));
 
     window.move(180, 90);
-    QTRY_COMPARE(window.pos(), QPoint(180, 90));
+    ASSERT_EVENTUALLY(window.pos() == QPoint(180, 90));
     EXPECT_EQ(card->geometry().topLeft(), origin() + QPoint(24, 460 - 16 - 40));
 
     window.resize(900, 640);
     area->setGeometry(0, 0, 900, 640);
-    QTRY_COMPARE(card->geometry().topLeft(), origin() + QPoint(24, 640 - 16 - 40));
+    ASSERT_EVENTUALLY(card->geometry().topLeft() == origin() + QPoint(24, 640 - 16 - 40));
 }
 
 TEST_F(OverlayHosts, TakesItsNewSizeWhenItsShapeChanges)
@@ -124,11 +126,11 @@ TEST_F(OverlayHosts, FadesInAndOut)
     host->add(card, bottomLeft);
     card->appear();
     EXPECT_LT(card->windowOpacity(), 1.0);
-    QTRY_COMPARE(card->windowOpacity(), 1.0);
+    ASSERT_EVENTUALLY(card->windowOpacity() == 1.0);
     card->disappear();
     EXPECT_TRUE(card->isVisible());
     EXPECT_FALSE(host->isShown(card));
-    QTRY_VERIFY(!card->isVisible());
+    ASSERT_EVENTUALLY(!card->isVisible());
 }
 
 TEST_F(OverlayHosts, AFadeThatTurnsRoundGoesOnFromWhereItIs)
@@ -136,14 +138,14 @@ TEST_F(OverlayHosts, AFadeThatTurnsRoundGoesOnFromWhereItIs)
     showWindow();
     host->add(card, bottomLeft);
     card->appear();
-    QTRY_COMPARE(card->windowOpacity(), 1.0);
+    ASSERT_EVENTUALLY(card->windowOpacity() == 1.0);
     card->disappear();
-    QTRY_VERIFY(card->windowOpacity() < 0.8);
+    ASSERT_EVENTUALLY(card->windowOpacity() < 0.8);
     const double before = card->windowOpacity();
     card->appear();
     EXPECT_GE(card->windowOpacity(), before - 0.05);
     EXPECT_TRUE(card->isVisible());
-    QTRY_COMPARE(card->windowOpacity(), 1.0);
+    ASSERT_EVENTUALLY(card->windowOpacity() == 1.0);
     EXPECT_TRUE(card->isVisible());
 }
 
@@ -195,10 +197,10 @@ TEST_F(OverlayHosts, AMinimisedWindowHidesOverlaysAndBringsThemBack)
     host->add(card, bottomLeft);
     card->appear();
     window.showMinimized();
-    QTRY_VERIFY(!card->isVisible());
+    ASSERT_EVENTUALLY(!card->isVisible());
     EXPECT_TRUE(host->isShown(card));
     window.showNormal();
-    QTRY_VERIFY(card->isVisible());
+    ASSERT_EVENTUALLY(card->isVisible());
 }
 
 TEST_F(OverlayHosts, APictureThatIsNotShownHasNoOverlays)

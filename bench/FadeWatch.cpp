@@ -70,21 +70,32 @@ void FadeWatch::read()
         watchWindows();
 }
 
-// What hovers over a film is no window of the window manager's, so all windows on the screen are looked
-// through.
+// A window that is shown stands in a frame of the window manager's, one that is not may stand on the screen
+// itself.
 void FadeWatch::watchWindows()
 {
-    const Reply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, m_root), nullptr));
-    if (!tree || m_program == 0)
+    if (m_program == 0)
         return;
-    const xcb_window_t *windows = xcb_query_tree_children(tree.get());
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
-        if (programOf(windows[i]) == m_program)
-            xcb_change_window_attributes(m_connection, windows[i], XCB_CW_EVENT_MASK, &mask);
+    for (const std::uint32_t frame : childrenOf(m_root)) {
+        std::vector<std::uint32_t> windows = childrenOf(frame);
+        windows.push_back(frame);
+        for (const std::uint32_t window : windows) {
+            if (programOf(window) == m_program)
+                xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &mask);
+        }
     }
     xcb_flush(m_connection);
+}
+
+std::vector<std::uint32_t> FadeWatch::childrenOf(std::uint32_t window) const
+{
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+    if (!tree)
+        return {};
+    const xcb_window_t *first = xcb_query_tree_children(tree.get());
+    return {first, first + xcb_query_tree_children_length(tree.get())};
 }
 
 std::uint32_t FadeWatch::programOf(std::uint32_t window) const

@@ -29,6 +29,7 @@ public:
 
 private:
     void watchWindows();
+    [[nodiscard]] std::vector<std::uint32_t> childrenOf(std::uint32_t window) const;
     [[nodiscard]] std::uint32_t programOf(std::uint32_t window) const;
     [[nodiscard]] std::vector<std::uint32_t> valuesOf(std::uint32_t window, std::uint32_t property) const;
     [[nodiscard]] std::uint32_t atom(const char *name) const;

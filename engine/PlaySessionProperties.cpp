@@ -268,6 +268,9 @@ void PlaySession::tellSubtitle()
 
 void PlaySession::tellRange()
 {
+    // A cover has no range worth telling.
+    if (facts().tracks.isAudioOnly())
+        return;
     const int range = !m_picture.isHdr()                         ? VD_Range_Sdr
                       : PictureOptions::passesHdr(m_preferences) ? VD_Range_Hdr
                                                                  : VD_Range_HdrToSdr;

@@ -16,6 +16,7 @@
 #include "PcKeyActions.h"
 #include "PcMediaSession.h"
 #include "PlayOverlays.h"
+#include "PosterView.h"
 #include "VolumeControl.h"
 
 #include "core/ApplicationInfoManager.h"
@@ -305,6 +306,8 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
     m_control->connectPlayer(player);
     m_overlays->connectPlayer(player);
     m_session->connectPlayer(player);
+    connect(player, &QPlayer::sig_playStatusChanged, this,
+            [](QPlayer::QPlayerStatus status) { ScreenSaver::setPlaying(QPlayer::isMoving(status)); });
     connect(player, &QPlayer::sig_shotScreen, this, &NormalMainWindow::slot_saveScreenShot);
     connect(player, &QPlayer::sig_videoSizeChanged, this, &NormalMainWindow::slot_fitVideoSize);
 }
@@ -439,9 +442,19 @@ void NormalMainWindow::tellBdavNote()
     MenuCase::suppressBdavNote(m_settings);
 }
 
-void NormalMainWindow::slot_changePoster(QVariant data, bool bAnimate)
+void NormalMainWindow::slot_changePoster(QVariant poster, bool bAnimate)
 {
-    m_startView->setPoster(data, bAnimate);
+    m_startView->setPoster(poster, bAnimate);
+}
+
+void NormalMainWindow::slot_posterProgressChange(QVariant value)
+{
+    m_startView->poster()->setPosterProgress(value.toDouble());
+}
+
+void NormalMainWindow::slot_opacityProgressChange(QVariant value)
+{
+    m_startView->poster()->setOpacityProgress(value.toDouble());
 }
 
 void NormalMainWindow::slot_openMedia()

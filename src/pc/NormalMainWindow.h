@@ -72,7 +72,9 @@ public slots:
     void slot_hotKey(KeyOperateType type);
     // Steps of the volume, negative ones downwards.
     void slot_changeVolume(int nCount);
-    void slot_changePoster(QVariant data, bool bAnimate);
+    void slot_changePoster(QVariant poster, bool bAnimate);
+    void slot_posterProgressChange(QVariant value);
+    void slot_opacityProgressChange(QVariant value);
     void slot_closeClicked();
     void slot_minClicked();
     void slot_maxClicked();

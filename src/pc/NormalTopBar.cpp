@@ -17,6 +17,13 @@ NormalTopBar::NormalTopBar(QWidget *movedWindow)
     m_titleBar->setMovedWindow(movedWindow);
 }
 
+QPainterPath NormalTopBar::opaqueShape() const
+{
+    QPainterPath path;
+    path.addRect(panelRect());
+    return path;
+}
+
 bool NormalTopBar::takesMouseAt(const QPoint &position) const
 {
     return panelRect().contains(position);

@@ -14,6 +14,8 @@ public:
 
     [[nodiscard]] NormalTitleBar *titleBar() const { return m_titleBar; }
 
+    // Flush with the edges of the window.
+    [[nodiscard]] QPainterPath opaqueShape() const override;
     [[nodiscard]] bool takesMouseAt(const QPoint &position) const override;
 
 protected:

@@ -20,14 +20,38 @@ ScreenSaverInhibitor &inhibitor()
     return *made;
 }
 
+struct Wish {
+    bool disabled{false};
+    bool playing{false};
+};
+
+Wish &wish()
+{
+    static Wish kept;
+    return kept;
+}
+
+void carryOut()
+{
+    inhibitor().setInhibited(wish().disabled && wish().playing);
+}
+
 } // namespace
 
 void ScreenSaver::disable()
 {
-    inhibitor().setInhibited(true);
+    wish().disabled = true;
+    carryOut();
 }
 
 void ScreenSaver::enable()
 {
-    inhibitor().setInhibited(false);
+    wish().disabled = false;
+    carryOut();
+}
+
+void ScreenSaver::setPlaying(bool playing)
+{
+    wish().playing = playing;
+    carryOut();
 }

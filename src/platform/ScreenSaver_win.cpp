@@ -21,3 +21,5 @@ void ScreenSaver::enable()
 {
     setActive(true, ES_CONTINUOUS);
 }
+
+void ScreenSaver::setPlaying(bool) {}

@@ -95,6 +95,12 @@ public:
     static void setLoaderFactory(LoaderFactory factory);
     // Ends the player of the program, before the application object goes. A later instance() makes a new one.
     static void releaseInstance();
+    // The picture moves or the sound is heard, at whatever speed.
+    [[nodiscard]] static constexpr bool isMoving(QPlayerStatus status)
+    {
+        return status == QPlayerStatus_Playing || status == QPlayerStatus_Forward
+               || status == QPlayerStatus_Rewind;
+    }
     // The types that cross queued connections, under the names that the signals use. Done by the constructor.
     static void registerMetaTypes();
 

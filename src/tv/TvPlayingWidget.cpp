@@ -5,6 +5,7 @@
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 #include "library/MediaServerManager.h"
+#include "platform/ScreenSaver.h"
 #include "player/DeferredSetup.h"
 #include "player/PlaySourcePath.h"
 #include "player/workObject.h"
@@ -157,6 +158,7 @@ void TvPlayingWidget::play(const QString &path)
 
 void TvPlayingWidget::SLOT_playStatusChanged(QPlayer::QPlayerStatus status)
 {
+    ScreenSaver::setPlaying(QPlayer::isMoving(status));
     switch (status) {
     case QPlayer::QPlayerStatus_Playing:
         m_surface->setPlaying(true);

@@ -153,12 +153,35 @@ TEST_F(ScreenSaverTest, AWishFromBeforeTheApplicationObjectIsRemembered)
     environment.insert("DBUS_SESSION_BUS_ADDRESS", m_address);
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(PLATFORM_CHILD, QStringList());
+    program.start(PLATFORM_CHILD, {"playing"});
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_service.calls.isEmpty(); }, kPatienceMs));
     EXPECT_EQ(m_service.calls, QStringList{"Inhibit Quorin Player 6"});
     program.closeWriteChannel();
     ASSERT_TRUE(program.waitForFinished(kPatienceMs));
     EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 0);
+}
+
+TEST_F(ScreenSaverTest, TheScreenIsKeptOnOnlyWhileSomethingPlays)
+{
+    offerService();
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", m_address);
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(PLATFORM_CHILD, QStringList());
+    ASSERT_TRUE(program.waitForStarted(kPatienceMs));
+    const QStringList calls{"Inhibit Quorin Player 6", "UnInhibit", "Inhibit Quorin Player 6"};
+    const char orders[] = {'1', '0', '1'};
+    for (int i = 0; i < calls.size(); ++i) {
+        EXPECT_EQ(m_service.calls, QStringList(calls.mid(0, i)));
+        program.write(&orders[i], 1);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_service.calls.size() > i; }, kPatienceMs)) << i;
+    }
+    EXPECT_EQ(m_service.calls, calls);
+    program.closeWriteChannel();
+    ASSERT_TRUE(program.waitForFinished(kPatienceMs));
     EXPECT_EQ(program.exitCode(), 0);
 }
 

@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">视频控制...</translation>
+        <translation>视频控制...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">色彩调整...</translation>
+        <translation>色彩调整...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">加载字幕...</translation>
+        <translation>加载字幕...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">关于</translation>
+        <translation>关于</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">菜单</translation>
+        <translation>菜单</translation>
     </message>
 </context>
 <context>

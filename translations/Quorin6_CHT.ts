@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">視訊控制...</translation>
+        <translation>視訊控制...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">色彩調整...</translation>
+        <translation>色彩調整...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">載入字幕...</translation>
+        <translation>載入字幕...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">關於</translation>
+        <translation>關於</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">選單</translation>
+        <translation>選單</translation>
     </message>
 </context>
 <context>

@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">Control de vídeo...</translation>
+        <translation>Control de vídeo...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">Ajuste de color...</translation>
+        <translation>Ajuste de color...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">Cargar subtítulos...</translation>
+        <translation>Cargar subtítulos...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">Acerca de</translation>
+        <translation>Acerca de</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menú</translation>
+        <translation>Menú</translation>
     </message>
 </context>
 <context>

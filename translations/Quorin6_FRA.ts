@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">Contrôle vidéo...</translation>
+        <translation>Contrôle vidéo...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">Réglage des couleurs...</translation>
+        <translation>Réglage des couleurs...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">Charger des sous-titres...</translation>
+        <translation>Charger des sous-titres...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">À propos</translation>
+        <translation>À propos</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menu</translation>
+        <translation>Menu</translation>
     </message>
 </context>
 <context>

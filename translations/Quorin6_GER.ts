@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">Videosteuerung...</translation>
+        <translation>Videosteuerung...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">Farbanpassung...</translation>
+        <translation>Farbanpassung...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">Untertitel laden...</translation>
+        <translation>Untertitel laden...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">Über</translation>
+        <translation>Über</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menü</translation>
+        <translation>Menü</translation>
     </message>
 </context>
 <context>

@@ -319,19 +319,19 @@
     </message>
     <message>
         <source>Video Control...</source>
-        <translation type="unfinished">映像コントロール...</translation>
+        <translation>映像コントロール...</translation>
     </message>
     <message>
         <source>Color Adjust...</source>
-        <translation type="unfinished">色調整...</translation>
+        <translation>色調整...</translation>
     </message>
     <message>
         <source>Load Subtitle...</source>
-        <translation type="unfinished">字幕を読み込む...</translation>
+        <translation>字幕を読み込む...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">バージョン情報</translation>
+        <translation>バージョン情報</translation>
     </message>
 </context>
 <context>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">メニュー</translation>
+        <translation>メニュー</translation>
     </message>
 </context>
 <context>

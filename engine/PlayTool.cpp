@@ -18,8 +18,13 @@ using ToolArguments::textOf;
 
 #ifdef _WIN32
 constexpr char defaultVideoOutputs[] = "gpu,direct3d";
+constexpr char drawingContext[] = "auto";
 #else
 constexpr char defaultVideoOutputs[] = "gpu,x11";
+// The surface is a window of the X server. Left to itself the library tries other systems too: on a Wayland
+// desktop its picture would get a window of its own, and where there is no graphics hardware its attempt at
+// the console ends with a close of descriptor 0, which by then may be anybody's.
+constexpr char drawingContext[] = "x11egl";
 #endif
 constexpr char clientName[] = "Quorin Player";
 
@@ -79,8 +84,10 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
     std::int64_t window = 0;
     if (void *block = toolConfig ? toolConfig->nativeWindow() : nullptr)
         window = static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(*static_cast<void **>(block)));
-    if (window != 0)
+    if (window != 0) {
         set("wid", window);
+        set("gpu-context", drawingContext);
+    }
     applyVolume();
     setSubtitleOverride(false);
     if (window == 0 && needsSurface(m_videoOutputs)) {

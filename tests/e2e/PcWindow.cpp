@@ -93,6 +93,7 @@ QList<QRect> PcWindow::overlays() const
 {
     const xcb_setup_t *setup = xcb_get_setup(m_connection);
     const xcb_window_t root = xcb_setup_roots_iterator(setup).data->root;
+    const QRect main = rect();
     QList<QRect> rects;
     for (const xcb_window_t frame : childrenOf(m_connection, root)) {
         QVector<xcb_window_t> windows = childrenOf(m_connection, frame);
@@ -104,8 +105,12 @@ QList<QRect> PcWindow::overlays() const
             const Reply<xcb_get_window_attributes_reply_t> state(xcb_get_window_attributes_reply(
                 m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
             if (state && state->map_state == XCB_MAP_STATE_VIEWABLE
-                && state->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT)
-                rects << rectOf(m_connection, window);
+                && state->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT) {
+                // Shadow and borders stand around it.
+                const QRect place = rectOf(m_connection, window);
+                if (main.contains(place))
+                    rects << place;
+            }
         }
     }
     return rects;

@@ -263,13 +263,16 @@ TEST_F(PcWindowTest, ThePictureOfTheMomentGoesIntoTheConfiguredFolder)
 TEST_F(PcWindowTest, AfterAStopTheNoteBringsThePositionBack)
 {
     ASSERT_NO_FATAL_FAILURE(startPlaying());
+    const QString input = m_run->descriptor(0);
     m_session.goTo(100);
     ASSERT_TRUE(waitForSeconds(100)) << m_session.seconds();
     m_window->click(onButton(shownBar(), TransportPlace::Stop));
     ASSERT_TRUE(m_home.waitForLog("OnPlayBackStopped"));
     ASSERT_TRUE(m_window->waitForTitle(kTitle));
-    EXPECT_TRUE(
-        eventually([this] { return m_session.status() == "Stopped" && m_window->overlays().isEmpty(); }));
+    EXPECT_TRUE(eventually([this] {
+        return m_session.status() == "Stopped" && m_window->overlays().isEmpty();
+    })) << qPrintable(m_session.status())
+        << seen();
 
     m_session.openUri(m_film);
     ASSERT_TRUE(m_home.waitForLog("OnPlayBackStarted", 2));
@@ -284,6 +287,9 @@ TEST_F(PcWindowTest, AfterAStopTheNoteBringsThePositionBack)
     m_window->click(note.center());
     EXPECT_TRUE(waitForSeconds(100, 4)) << m_session.seconds();
     EXPECT_TRUE(eventually([&] { return m_window->overlay({200, 70}, {600, 220}).isNull(); }));
+    // Two plays and a stop have closed nothing that is not theirs.
+    EXPECT_EQ(m_run->descriptor(0), input);
+    EXPECT_EQ(m_session.status(), "Playing");
 }
 
 TEST_F(PcWindowTest, AMissingFileIsToldInADialogThatEnterCloses)

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 
@@ -144,6 +145,14 @@ QStringList ProgramRun::mappedFiles() const
     }
     files.removeDuplicates();
     return files;
+}
+
+QString ProgramRun::descriptor(int number) const
+{
+    char target[4096];
+    const QByteArray link = QStringLiteral("/proc/%1/fd/%2").arg(id()).arg(number).toUtf8();
+    const ssize_t length = ::readlink(link.constData(), target, sizeof target);
+    return length > 0 ? QString::fromLocal8Bit(target, int(length)) : QString();
 }
 
 int ProgramRun::waitForEnd(int timeoutMs)

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] qint64 id() const { return m_process.processId(); }
     // The files that its memory shows, programs and libraries among them.
     [[nodiscard]] QStringList mappedFiles() const;
+    // What one of its descriptors stands for.
+    [[nodiscard]] QString descriptor(int number) const;
     // -1 when it did not end in time or crashed.
     [[nodiscard]] int waitForEnd(int timeoutMs = 20000);
 

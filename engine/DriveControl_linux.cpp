@@ -7,6 +7,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <climits>
+
 namespace {
 
 // Opened without waiting for a disc.

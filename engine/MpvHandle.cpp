@@ -314,6 +314,7 @@ void MpvHandle::get(const std::string &name, Format format, std::uint64_t id)
 void MpvHandle::command(const std::vector<std::string> &arguments, std::uint64_t id)
 {
     std::vector<const char *> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (const std::string &argument : arguments)
         pointers.push_back(argument.c_str());
     pointers.push_back(nullptr);

@@ -155,7 +155,7 @@ private:
     void stepMotion();
     void settle();
     void afterApplied(std::function<void()> task);
-    void loadSubtitle(const std::string &path, std::function<void(int)> answer);
+    void loadSubtitle(const std::string &path, const std::function<void(int)> &answer);
     void doStep(int frames);
 
     // EngineSettings::Follower

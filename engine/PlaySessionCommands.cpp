@@ -221,7 +221,7 @@ int PlaySession::addSubtitle(const std::string &path)
     }
 }
 
-void PlaySession::loadSubtitle(const std::string &path, std::function<void(int)> answer)
+void PlaySession::loadSubtitle(const std::string &path, const std::function<void(int)> &answer)
 {
     if (m_state != State::Playing) {
         answer(-1);

@@ -1,5 +1,5 @@
-// A program that asks for the screen to stay on before it has an application object, as the player does. It plays while
-// the last character of its standard input is a "1", and runs until that input ends.
+// A program that asks for the screen to stay on before it has an application object, as the player does. It
+// plays while the last character of its standard input is a "1", and runs until that input ends.
 #include "platform/Pointer.h"
 #include "platform/ScreenSaver.h"
 

@@ -2,12 +2,11 @@
 
 #include "DialogLook.h"
 
-#include "platform/Compositing.h"
 #include "ui/LookTokens.h"
 #include "ui/PictureButton.h"
-#include "ui/QShadowWnd.h"
 #include "ui/RoundCorners.h"
 #include "ui/StyleLoader.h"
+#include "ui/WindowShadow.h"
 
 #include <QFrame>
 #include <QGuiApplication>
@@ -32,6 +31,9 @@ NormalDialogFrame::NormalDialogFrame(const QString &title, QWidget *parent)
 {
     setTitleHeight(Look::px(DialogLook::TitleHeight));
     setFont(Look::font(14));
+
+    m_shadow = new WindowShadow(this, QShadowPainter::Set::SubWindow);
+    connect(m_shadow, &WindowShadow::shown, this, &NormalDialogFrame::meetShadow);
 
     m_panel = new QFrame(this);
     m_panel->setObjectName(QLatin1String(DialogLook::Panel));
@@ -138,53 +140,20 @@ void NormalDialogFrame::showEvent(QShowEvent *event)
     if (!event->spontaneous())
         fit();
     QMoveableNoBordersWnd::showEvent(event);
-    showShadow();
 }
 
-// The shadow is mapped before the dialog and belongs to the same main window, which keeps it between the two.
-void NormalDialogFrame::showShadow()
+// The colour of the shadow where it touches the window.
+void NormalDialogFrame::meetShadow()
 {
-    if (!isWindow() || !Compositing::isActive())
-        return;
-    if (!m_shadow) {
-        m_shadow = std::make_unique<QShadowWnd>(this, QShadowPainter::Set::SubWindow);
-        m_shadow->setAttribute(Qt::WA_TransparentForMouseEvents);
-        m_shadow->winId();
-        const QImage side(QLatin1String(StyleLoader::kPicturePrefix) + QLatin1String("shadow_sub_left.png"));
-        if (!side.isNull())
-            m_shadowEdge = side.pixelColor(side.width() - 1, side.height() / 2);
-        if (parentWidget() && parentWidget()->window()->windowHandle())
-            m_shadow->windowHandle()->setTransientParent(parentWidget()->window()->windowHandle());
-    }
-    m_shadow->show();
+    const QImage side(QLatin1String(StyleLoader::kPicturePrefix) + QLatin1String("shadow_sub_left.png"));
+    if (!side.isNull())
+        m_shadowEdge = side.pixelColor(side.width() - 1, side.height() / 2);
+    update();
 }
 
 // The shadow ends at the window's rectangle; outside the panel's round corners it goes on in here.
 void NormalDialogFrame::paintEvent(QPaintEvent *)
 {
-    if (m_shadow && m_shadow->isVisible())
+    if (m_shadow->isShown())
         QPainter(this).fillRect(rect(), m_shadowEdge);
-}
-
-void NormalDialogFrame::hideEvent(QHideEvent *event)
-{
-    QMoveableNoBordersWnd::hideEvent(event);
-    if (m_shadow)
-        m_shadow->hide();
-}
-
-void NormalDialogFrame::moveEvent(QMoveEvent *event)
-{
-    QMoveableNoBordersWnd::moveEvent(event);
-    if (m_shadow)
-        m_shadow->slot_updatePosition(pos());
-}
-
-void NormalDialogFrame::resizeEvent(QResizeEvent *event)
-{
-    QMoveableNoBordersWnd::resizeEvent(event);
-    if (!m_shadow)
-        return;
-    const QMargins around = QShadowWnd::Margins;
-    m_shadow->resize(size().grownBy(around));
 }

@@ -8,12 +8,10 @@
 
 #include <QColor>
 
-#include <memory>
-
 class QFrame;
 class QLabel;
 class QPushButton;
-class QShadowWnd;
+class WindowShadow;
 class QVBoxLayout;
 
 class NormalDialogFrame : public QMoveableNoBordersWnd {
@@ -49,16 +47,13 @@ protected:
 
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-    void moveEvent(QMoveEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void showShadow();
+    void meetShadow();
 
     QFrame *m_panel{nullptr};
     QLabel *m_title{nullptr};
     QVBoxLayout *m_body{nullptr};
-    std::unique_ptr<QShadowWnd> m_shadow;
+    WindowShadow *m_shadow{nullptr};
     QColor m_shadowEdge{Qt::transparent}; // the shadow where it meets the panel
 };

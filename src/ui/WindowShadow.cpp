@@ -8,9 +8,10 @@
 #include <QEvent>
 #include <QWidget>
 
-WindowShadow::WindowShadow(QWidget *target)
+WindowShadow::WindowShadow(QWidget *target, QShadowPainter::Set set)
     : QObject(target)
     , m_target(target)
+    , m_set(set)
 {
     target->installEventFilter(this);
 }
@@ -50,18 +51,20 @@ bool WindowShadow::eventFilter(QObject *watched, QEvent *event)
 
 void WindowShadow::update()
 {
-    const bool wanted = m_target->isVisible() && !m_target->isMaximized() && !m_target->isFullScreen()
-                        && !m_target->isMinimized() && Compositing::isActive();
+    const bool wanted = m_target->isWindow() && m_target->isVisible() && !m_target->isMaximized()
+                        && !m_target->isFullScreen() && !m_target->isMinimized() && Compositing::isActive();
     if (!wanted) {
         hide();
         return;
     }
     if (!m_shadow) {
-        m_shadow = std::make_unique<QShadowWnd>(m_target);
+        m_shadow = std::make_unique<QShadowWnd>(m_target, m_set);
         m_shadow->setWindowFlag(Qt::WindowTransparentForInput);
     }
-    if (!m_shadow->isVisible())
+    if (!m_shadow->isVisible()) {
         m_shadow->show();
+        emit shown();
+    }
     follow();
     WindowStacking::placeBelow(m_shadow->winId(), m_target->winId());
 }

@@ -26,10 +26,11 @@
 [[nodiscard]] inline FakeEngine &fakeEngine()
 {
     static FakeEngine *const engine = [] {
-        auto *library = new QLibrary(fakeEngineFile());
-        const auto function = reinterpret_cast<FakeEngineFunction>(library->resolve(FakeEngineName));
+        QLibrary library(fakeEngineFile());
+        library.setLoadHints(QLibrary::PreventUnloadHint);
+        const auto function = reinterpret_cast<FakeEngineFunction>(library.resolve(FakeEngineName));
         if (!function)
-            qFatal("the scripted engine cannot be loaded: %s", qPrintable(library->errorString()));
+            qFatal("the scripted engine cannot be loaded: %s", qPrintable(library.errorString()));
         return function();
     }();
     return *engine;

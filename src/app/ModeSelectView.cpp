@@ -10,6 +10,7 @@
 #include "ui/RoundCorners.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>

@@ -34,6 +34,7 @@
 #include "ui/StyleLoader.h"
 #include "visual/pcmParser.h"
 
+#include <QDebug>
 #include <QScreen>
 #include <QSysInfo>
 #include <QTimer>

@@ -4,6 +4,7 @@
 #include "ui/FixedDigits.h"
 #include "ui/LookTokens.h"
 
+#include <QDebug>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>

@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDebug>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMimeData>

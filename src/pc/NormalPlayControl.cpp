@@ -12,6 +12,7 @@
 #include "playcontrol/StatisticName.h"
 #include "player/DeferredSetup.h"
 
+#include <QDebug>
 #include <QFileInfo>
 #include <QTimer>
 

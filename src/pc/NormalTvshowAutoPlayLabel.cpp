@@ -5,6 +5,7 @@
 #include "playcontrol/PlayTimeText.h"
 #include "ui/LookTokens.h"
 
+#include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>

@@ -4,6 +4,7 @@
 
 #include "core/ApplicationInfoManager.h"
 
+#include <QDebug>
 #include <QFile>
 #include <QImage>
 

@@ -4,6 +4,7 @@
 #include "ui/LookTokens.h"
 
 #include <QBuffer>
+#include <QDebug>
 #include <QFile>
 #include <QImageReader>
 #include <QPaintEvent>

@@ -9,6 +9,7 @@
 #include "platform/DriveLetters.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 #include <QThread>
 
 namespace {

@@ -5,6 +5,8 @@
 #include "PlayerText.h"
 #include "SpeedTable.h"
 
+#include <QDebug>
+
 #include <cmath>
 
 namespace {

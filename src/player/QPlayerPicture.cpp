@@ -7,6 +7,8 @@
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 
+#include <QDebug>
+
 namespace {
 
 // Bits of the engine's flip state.

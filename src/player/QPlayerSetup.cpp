@@ -4,6 +4,7 @@
 #include "EngineProperties.h"
 #include "PlayerText.h"
 
+#include <QDebug>
 #include <QFileInfo>
 
 bool QPlayer::setBoolProperty(const char *name, bool value)

@@ -3,6 +3,7 @@
 
 #include "PlayerText.h"
 
+#include <QDebug>
 #include <QFileInfo>
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "DeviceMessage.h"
 
+#include <QDebug>
 #include <QDir>
 
 TvFileSystemManager::TvFileSystemManager()

@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDebug>
 #include <QIcon>
 #include <QStackedWidget>
 #include <QTimer>

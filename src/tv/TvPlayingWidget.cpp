@@ -11,6 +11,7 @@
 #include "player/workObject.h"
 #include "ui/VideoSurface.h"
 
+#include <QDebug>
 #include <QFrame>
 #include <QLabel>
 #include <QTimer>

@@ -6,6 +6,7 @@
 #include "core/ApplicationInfoManager.h"
 
 #include <QApplication>
+#include <QDebug>
 #include <QFile>
 #include <QHash>
 #include <QMessageBox>

@@ -6,6 +6,7 @@
 #include "core/SettingsManager.h"
 
 #include <QBuffer>
+#include <QDebug>
 
 #include <limits>
 

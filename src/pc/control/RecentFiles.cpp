@@ -2,6 +2,7 @@
 
 #include "core/SettingsManager.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 

@@ -1,6 +1,7 @@
 #include "ScreenshotWriter.h"
 
 #include <QBuffer>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

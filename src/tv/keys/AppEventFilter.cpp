@@ -5,6 +5,7 @@
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
 
+#include <QDebug>
 #include <QKeyEvent>
 #include <QWheelEvent>
 

@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>无法播放此来源。它可能已损坏、受到保护或格式未知。</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>没有这样的文件、文件夹或标题。</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>无法读取此来源，或者它既不是文件，也不是文件夹或光盘。</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>此来源中没有可播放的内容。</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>此来源中没有光盘，或者光盘无法读取。</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>此来源没有响应。</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>播放此来源时发生错误并中止。</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>無法播放此來源。它可能已損毀、受到保護或格式不明。</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>沒有這樣的檔案、資料夾或標題。</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>無法讀取此來源，或者它既不是檔案，也不是資料夾或光碟。</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>此來源中沒有可播放的內容。</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>此來源中沒有光碟，或者光碟無法讀取。</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>此來源沒有回應。</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>播放此來源時發生錯誤並中止。</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

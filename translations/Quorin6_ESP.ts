@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>No se puede reproducir esta fuente. Puede estar dañada, protegida o tener un formato desconocido.</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>No existe ese archivo, carpeta o título.</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>No se puede leer este origen, o no es un archivo, una carpeta ni un disco.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>En este origen no hay nada que se pueda reproducir.</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>En este origen no hay ningún disco, o no se puede leer.</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>Este origen no responde.</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>Este origen terminó con un error durante la reproducción.</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>Impossible de lire cette source. Elle est peut-être endommagée, protégée ou d’un format inconnu.</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>Ce fichier, ce dossier ou ce titre n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>Cette source ne peut pas être lue, ou n’est ni un fichier, ni un dossier, ni un disque.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>Cette source ne contient rien qui puisse être lu.</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>Cette source ne contient pas de disque, ou pas de disque lisible.</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>Cette source ne répond pas.</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>La lecture de cette source s’est arrêtée sur une erreur.</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>Diese Quelle kann nicht abgespielt werden. Sie ist möglicherweise beschädigt, geschützt oder hat ein unbekanntes Format.</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>Diese Datei, diesen Ordner oder diesen Titel gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>Diese Quelle darf nicht gelesen werden oder ist weder Datei noch Ordner noch Disc.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>In dieser Quelle ist nichts, was abgespielt werden kann.</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>In dieser Quelle ist keine Disc oder keine lesbare.</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>Diese Quelle antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>Diese Quelle endete beim Abspielen mit einem Fehler.</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

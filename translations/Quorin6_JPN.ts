@@ -557,6 +557,30 @@
         <source>This source can&apos;t be played. It may be damaged, protected or of an unknown format.</source>
         <translation>このソースは再生できません。破損しているか、保護されているか、未知の形式である可能性があります。</translation>
     </message>
+    <message>
+        <source>There is no such file, folder or title.</source>
+        <translation>そのファイル、フォルダー、またはタイトルはありません。</translation>
+    </message>
+    <message>
+        <source>This source may not be read, or is neither a file nor a folder nor a disc.</source>
+        <translation>このソースは読み取れないか、ファイル、フォルダー、ディスクのいずれでもありません。</translation>
+    </message>
+    <message>
+        <source>There is nothing in this source that can be played.</source>
+        <translation>このソースには再生できるものがありません。</translation>
+    </message>
+    <message>
+        <source>There is no disc in this source, or none that can be read.</source>
+        <translation>このソースにディスクがないか、読み取れません。</translation>
+    </message>
+    <message>
+        <source>This source does not answer.</source>
+        <translation>このソースから応答がありません。</translation>
+    </message>
+    <message>
+        <source>This source ended with an error while it played.</source>
+        <translation>このソースは再生中にエラーで終了しました。</translation>
+    </message>
 </context>
 <context>
     <name>QApplication</name>

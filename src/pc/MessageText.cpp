@@ -6,6 +6,7 @@
 
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QtMath>
 
 namespace {
 

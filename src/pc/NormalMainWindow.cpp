@@ -414,7 +414,7 @@ void NormalMainWindow::tellFailure(int errCode)
         return;
     const PlayFailure::Row &row = PlayFailure::rowOf(errCode);
     QString text = PlayFailure::text(row, QUrl());
-    if (row.code == 0)
+    if (row.namesSource)
         text += QStringLiteral("\n\n") + m_control->currentPath();
     NormalMessageBoxFactory::showNote(this, text, PlayFailure::title(row));
     m_control->failureRead(errCode);

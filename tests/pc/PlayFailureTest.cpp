@@ -34,13 +34,27 @@ TEST(PlayFailureTest, EachCodeHasItsLogLineAndText)
 
 TEST(PlayFailureTest, AnyOtherCodeIsAGeneralFailure)
 {
-    for (const int code : {0, 1, -1, 0xD2, 99999}) {
+    for (const int code : {0, 3, 8, -1, 0xD2, 99999}) {
         const PlayFailure::Row &row = PlayFailure::rowOf(code);
         EXPECT_EQ(row.code, 0);
         EXPECT_FALSE(PlayFailure::text(row, {}).isEmpty());
         EXPECT_EQ(PlayFailure::logLine(code),
                   QStringLiteral("[Player fail]: UHD Disc unknown : %1").arg(code));
     }
+}
+
+TEST(PlayFailureTest, WhyAFileCantBePlayedIsTold)
+{
+    QStringList texts;
+    for (const int code : {1, 2, 4, 5, 6, 7, 99}) {
+        const PlayFailure::Row &row = PlayFailure::rowOf(code);
+        EXPECT_TRUE(row.namesSource) << code;
+        EXPECT_EQ(PlayFailure::title(row), "Playback failed.");
+        EXPECT_EQ(PlayFailure::logLine(code),
+                  QStringLiteral("[Player fail]: UHD Disc unknown : %1").arg(code));
+        texts << PlayFailure::text(row, {});
+    }
+    EXPECT_EQ(texts.removeDuplicates(), 0);
 }
 
 TEST(PlayFailureTest, MakersSiteStandsBehindTheTextAsALink)

@@ -8,28 +8,48 @@ namespace {
 
 constexpr char Context[] = "PlayFailure";
 
+constexpr char kUnknown[] = "[Player fail]: UHD Disc unknown :";
+constexpr char kFailed[] = QT_TRANSLATE_NOOP("PlayFailure", "Playback failed.");
+
 constexpr Row Rows[] = {
     {DiscKeyUnreadable, "[Player fail]: UHD Disc ReadDataKey : %1", nullptr,
      QT_TRANSLATE_NOOP("PlayFailure",
                        "Quorin does not support your UHD drive, please check the supported drives here."),
-     QT_TRANSLATE_NOOP("PlayFailure", "More Info..."), Link::SupportedDrives},
+     QT_TRANSLATE_NOOP("PlayFailure", "More Info..."), Link::SupportedDrives, false},
     {DiscNotSupportedYet, "[Player fail]: UHD Disc FFClient_Reading :", nullptr,
      QT_TRANSLATE_NOOP("PlayFailure",
                        "Oops! This disc is not supported yet. Please try again at a later time."),
-     nullptr, Link::None},
+     nullptr, Link::None, false},
     {DiscNeedsInternet, "[Player fail]: Disc_Error_InternetUnavailable :",
      QT_TRANSLATE_NOOP("PlayFailure", "Failed to play back the disc."),
      QT_TRANSLATE_NOOP(
          "PlayFailure",
          "A live Internet is required to play back the disc, please check your network and try again."),
-     nullptr, Link::None},
+     nullptr, Link::None, false},
     {DiscServerError, "[Player fail]: Disc_Error_FFClient_ServerError :", nullptr,
      QT_TRANSLATE_NOOP("PlayFailure", "An unknown error happened, please update to the newest version at"),
-     nullptr, Link::MakerSite},
-    {0, "[Player fail]: UHD Disc unknown :", QT_TRANSLATE_NOOP("PlayFailure", "Playback failed."),
+     nullptr, Link::MakerSite, false},
+    {NotFound, kUnknown, kFailed, QT_TRANSLATE_NOOP("PlayFailure", "There is no such file, folder or title."),
+     nullptr, Link::None, true},
+    {NoAccess, kUnknown, kFailed,
+     QT_TRANSLATE_NOOP("PlayFailure",
+                       "This source may not be read, or is neither a file nor a folder nor a disc."),
+     nullptr, Link::None, true},
+    {NoStream, kUnknown, kFailed,
+     QT_TRANSLATE_NOOP("PlayFailure", "There is nothing in this source that can be played."), nullptr,
+     Link::None, true},
+    {DiscUnreadable, kUnknown, kFailed,
+     QT_TRANSLATE_NOOP("PlayFailure", "There is no disc in this source, or none that can be read."), nullptr,
+     Link::None, true},
+    {TimedOut, kUnknown, kFailed, QT_TRANSLATE_NOOP("PlayFailure", "This source does not answer."), nullptr,
+     Link::None, true},
+    {Broken, kUnknown, kFailed,
+     QT_TRANSLATE_NOOP("PlayFailure", "This source ended with an error while it played."), nullptr,
+     Link::None, true},
+    {0, kUnknown, kFailed,
      QT_TRANSLATE_NOOP("PlayFailure",
                        "This source can't be played. It may be damaged, protected or of an unknown format."),
-     nullptr, Link::None},
+     nullptr, Link::None, true},
 };
 
 QString translated(const char *text)

@@ -10,6 +10,14 @@
 namespace PlayFailure {
 
 enum Code : int {
+    // The engine's reasons, see libvp::VD_PlayError; all others share a row.
+    NotFound = 1,
+    NoAccess = 2,
+    NoStream = 4,
+    DiscUnreadable = 5,
+    TimedOut = 6,
+    Broken = 7,
+    // Reasons of protected discs.
     DiscKeyUnreadable = 0xD1,
     DiscNeedsInternet = 0x12E,
     DiscNotSupportedYet = 0x134,
@@ -26,6 +34,7 @@ struct Row {
     const char *text;     // English, translated by text()
     const char *linkText; // null: the address itself is the text
     Link link;
+    bool namesSource; // the path stands below the text
 };
 
 // The row of a code; codes without a row share the last one.

@@ -148,15 +148,7 @@ QSize NormalMetaView::sizeHint() const
 void NormalMetaView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (isCompact()) {
-        painter.fillRect(rect(), Look::color(Look::Panel));
-    } else {
-        painter.setPen(QPen(Look::color(Look::NoteLine), 1));
-        painter.setBrush(Look::color(Look::Note));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Look::px(cornerRadius()),
-                                Look::px(cornerRadius()));
-    }
+    paintGround(painter);
     QRect line(Look::px(kSide), Look::px(kTop), width() - 2 * Look::px(kSide), Look::px(kNameHeight));
     painter.setFont(Look::font(kNameFont, QFont::DemiBold));
     painter.setPen(Look::color(Look::Text));

@@ -97,15 +97,7 @@ void NormalPlaySpeedBar::resizeEvent(QResizeEvent *event)
 void NormalPlaySpeedBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (isCompact()) {
-        painter.fillRect(rect(), Look::color(Look::Panel));
-    } else {
-        painter.setPen(QPen(Look::color(Look::NoteLine), 1));
-        painter.setBrush(Look::color(Look::Note));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Look::px(cornerRadius()),
-                                Look::px(cornerRadius()));
-    }
+    paintGround(painter);
     const int icon = Look::px(kIcon);
     const QString name =
         m_rewinding ? QStringLiteral("transport_rewind") : QStringLiteral("transport_forward");

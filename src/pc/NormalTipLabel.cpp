@@ -95,15 +95,7 @@ QSize NormalTipLabel::sizeHint() const
 void NormalTipLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (isCompact()) {
-        painter.fillRect(rect(), Look::color(Look::Panel));
-    } else {
-        painter.setPen(QPen(Look::color(Look::NoteLine), 1));
-        painter.setBrush(Look::color(Look::Note));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Look::px(cornerRadius()),
-                                Look::px(cornerRadius()));
-    }
+    paintGround(painter);
     const int icon = Look::px(kIcon);
     painter.drawPixmap(Look::px(kSide), (height() - icon) / 2,
                        TransportIcons::pixmap(m_icon, icon, Look::color(Look::Control)));

@@ -2,6 +2,8 @@
 
 #include "LookTokens.h"
 
+#include <QPainter>
+
 OverlayWidget::OverlayWidget(QWidget *parent)
     : QWidget(parent)
 {
@@ -46,4 +48,17 @@ bool OverlayWidget::takesMouseAt(const QPoint &position) const
 int OverlayWidget::cornerRadius() const
 {
     return Look::CornerCard;
+}
+
+void OverlayWidget::paintGround(QPainter &painter) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isCompact()) {
+        painter.fillRect(rect(), Look::color(Look::Panel));
+        return;
+    }
+    const int radius = Look::px(cornerRadius());
+    painter.setPen(QPen(Look::color(Look::NoteLine), 1));
+    painter.setBrush(Look::color(Look::Note));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }

@@ -39,6 +39,9 @@ protected:
     // Corners of opaqueShape() as a whole card, in design pixels.
     [[nodiscard]] virtual int cornerRadius() const;
     virtual void compactChanged() {}
+    // The ground of a small note: translucent with a thin line, or an opaque panel where the display cannot
+    // blend. Leaves the painter with smooth edges.
+    void paintGround(QPainter &painter) const;
 
 private:
     void setWanted(bool wanted);

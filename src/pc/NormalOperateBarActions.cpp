@@ -10,6 +10,7 @@
 #include "VolumeControl.h"
 #include "VolumeSlider.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenu>
 

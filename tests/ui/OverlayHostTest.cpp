@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -63,6 +64,7 @@ protected:
         host->setCompositingQuery([this] { return blends; });
         card = new Card;
     }
+    void TearDown() override { delete card.data(); }
     void showWindow()
     {
         window.show();
@@ -73,7 +75,7 @@ protected:
     QWidget window;
     Picture *area{nullptr};
     OverlayHost *host{nullptr};
-    Card *card{nullptr};
+    QPointer<Card> card;
     bool blends{true};
     const OverlayRule bottomLeft{OverlayRule::Anchor::BottomLeft, QMargins(24, 0, 0, 16), 1};
 };

@@ -16,6 +16,8 @@ using Reply = std::unique_ptr<T, Freed>;
 
 // Steps further apart belong to two fades: bars rest for seconds between them.
 constexpr std::uint32_t PauseMs = 1000;
+// Of steps that come together only one can be seen.
+constexpr std::uint32_t TogetherMs = 4;
 
 } // namespace
 
@@ -52,16 +54,23 @@ void FadeWatch::read()
     bool isTreeChanged = false;
     while (xcb_generic_event_t *taken = xcb_poll_for_event(m_connection)) {
         const Reply<xcb_generic_event_t> event(taken);
-        if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY) {
+        const int type = event->response_type & 0x7f;
+        if (type != XCB_PROPERTY_NOTIFY) {
             isTreeChanged = true;
+            // What was set before the window came is no step that anybody could see.
+            if (type == XCB_MAP_NOTIFY)
+                m_lastStep.erase(reinterpret_cast<const xcb_map_notify_event_t *>(taken)->window);
             continue;
         }
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(taken);
         if (change->atom != m_opacity)
             continue;
         const auto last = m_lastStep.find(change->window);
-        if (last != m_lastStep.end() && change->time - last->second <= PauseMs)
-            m_intervals.push_back(change->time - last->second);
+        const std::uint32_t since = last != m_lastStep.end() ? change->time - last->second : PauseMs + 1;
+        if (since < TogetherMs)
+            continue;
+        if (since <= PauseMs)
+            m_intervals.push_back(since);
         else
             ++m_fades;
         m_lastStep[change->window] = change->time;
@@ -76,7 +85,7 @@ void FadeWatch::watchWindows()
 {
     if (m_program == 0)
         return;
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     for (const std::uint32_t frame : childrenOf(m_root)) {
         std::vector<std::uint32_t> windows = childrenOf(frame);
         windows.push_back(frame);

@@ -53,8 +53,9 @@ int host(const char *clip, int width, int height)
     if (!mpv)
         return 1;
     mpv_set_option(mpv, "wid", MPV_FORMAT_INT64, &window);
+    // What takes time at a load is set as the player sets it: it looks for a hardware decoder first.
     for (const auto &[name, value] :
-         {std::pair("vo", "x11"), std::pair("ao", "null"), std::pair("hwdec", "no"),
+         {std::pair("vo", "x11"), std::pair("ao", "null"), std::pair("hwdec", "auto-safe"),
           std::pair("config", "no"), std::pair("terminal", "no")})
         mpv_set_option_string(mpv, name, value);
     if (mpv_initialize(mpv) < 0)

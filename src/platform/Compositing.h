@@ -8,4 +8,8 @@ namespace Compositing {
 
 [[nodiscard]] bool isActive();
 
+// Hands what was asked of the display over to it now. By itself that may wait for the next event, and a fade
+// that nothing else goes along with would then stand still and jump.
+void flush();
+
 } // namespace Compositing

@@ -14,4 +14,7 @@ bool isActive()
     return SUCCEEDED(DwmIsCompositionEnabled(&enabled)) && enabled;
 }
 
+// Every call reaches the window manager at once.
+void flush() {}
+
 } // namespace Compositing

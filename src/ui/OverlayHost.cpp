@@ -74,8 +74,10 @@ void OverlayHost::add(QWidget *overlay, const OverlayRule &rule)
     added->rule = rule;
     added->fade = std::make_unique<QVariantAnimation>();
     added->fade->setEasingCurve(QEasingCurve::OutCubic);
-    connect(added->fade.get(), &QVariantAnimation::valueChanged, overlay,
-            [overlay](const QVariant &opacity) { overlay->setWindowOpacity(opacity.toDouble()); });
+    connect(added->fade.get(), &QVariantAnimation::valueChanged, overlay, [overlay](const QVariant &opacity) {
+        overlay->setWindowOpacity(opacity.toDouble());
+        Compositing::flush();
+    });
     connect(added->fade.get(), &QVariantAnimation::finished, this, [this, added] { finishFade(*added); });
     connect(overlay, &QObject::destroyed, this, &OverlayHost::forget);
     const auto higher = std::find_if(m_entries.begin(), m_entries.end(),

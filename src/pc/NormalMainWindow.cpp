@@ -268,22 +268,26 @@ bool NormalMainWindow::isPlayViewShown() const
     return m_stack->currentWidget() != m_startView;
 }
 
+QVector<AnimateMenu::Row> NormalMainWindow::menuRows(bool playing)
+{
+    using Kind = AnimateMenu::Kind;
+    const AnimateMenu::Row line{Kind::Line, {}, {}, false};
+    return {{Kind::Dialog, PopDlgTyle::OpenMedia, tr("Open Media..."), true},
+            line,
+            {Kind::Dialog, PopDlgTyle::VideoControl, tr("Video Control..."), playing},
+            {Kind::Dialog, PopDlgTyle::ColorAdjust, tr("Color Adjust..."), playing},
+            {Kind::Dialog, PopDlgTyle::LoadSubtitle, tr("Load Subtitle..."), playing},
+            line,
+            {Kind::Dialog, PopDlgTyle::About, tr("About"), true}};
+}
+
 void NormalMainWindow::retranslate()
 {
     m_titleBar->retranslate();
     m_startView->retranslate();
     m_overlays->retranslate();
-    using Row = AnimateMenu::Row;
-    using Kind = AnimateMenu::Kind;
-    const Row line{Kind::Line, {}, {}, false};
     const bool playing = isPlayViewShown();
-    m_menu->setRows({{Kind::Dialog, PopDlgTyle::OpenMedia, tr("Open Media..."), true},
-                     line,
-                     {Kind::Dialog, PopDlgTyle::VideoControl, tr("Video Control..."), playing},
-                     {Kind::Dialog, PopDlgTyle::ColorAdjust, tr("Color Adjust..."), playing},
-                     {Kind::Dialog, PopDlgTyle::LoadSubtitle, tr("Load Subtitle..."), playing},
-                     line,
-                     {Kind::Dialog, PopDlgTyle::About, tr("About"), true}});
+    m_menu->setRows(menuRows(playing));
     m_titleBar->setText(playing ? m_control->displayName() : ApplicationInfoManager::productName());
 }
 

@@ -10,6 +10,7 @@
 #include "keys/KeyOperateType.h"
 #include "playcontrol/DropRule.h"
 #include "playcontrol/RecentFiles.h"
+#include "ui/AnimateMenu.h"
 
 #include <QPoint>
 #include <QVariant>
@@ -17,7 +18,6 @@
 
 #include <memory>
 
-class AnimateMenu;
 class CoverReader;
 class DeferredSetup;
 class DropReader;
@@ -37,7 +37,6 @@ class ScreenshotWriter;
 class SettingsManager;
 class WindowShadow;
 class workObject;
-enum class PopDlgTyle;
 
 class NormalMainWindow final : public QWidget, public ILanguageBase {
     Q_OBJECT
@@ -55,6 +54,9 @@ public:
     [[nodiscard]] PcMediaSession *mediaSession() const { return m_session; }
     // The picture, or what stands for it while music plays, is on view.
     [[nodiscard]] bool isPlayViewShown() const;
+
+    // The lines of the main menu; without a source those for the picture can't be chosen.
+    [[nodiscard]] static QVector<AnimateMenu::Row> menuRows(bool playing);
 
     void retranslate() override;
 

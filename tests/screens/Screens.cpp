@@ -11,6 +11,7 @@
 #include "pc/NormalColorAdjustDlg.h"
 #include "pc/NormalLastPositionLabel.h"
 #include "pc/NormalLoadingDlg.h"
+#include "pc/NormalMainWindow.h"
 #include "pc/NormalMessageBox.h"
 #include "pc/NormalStartView.h"
 #include "pc/NormalTvshowAutoPlayLabel.h"
@@ -241,6 +242,7 @@ void Screens::drawMenus()
     window.resize(Look::px(800), Look::px(800));
     window.show();
     AnimateMenu menu(&window);
+    menu.setRows(NormalMainWindow::menuRows(true));
     menu.setOpenGeometry(QRect(QPoint(0, 0), menu.sizeHint()));
     menu.slideIn();
     menu.animate(QStringLiteral("animate"))->setCurrentTime(AnimateMenu::OpenMs);

@@ -306,6 +306,15 @@ void MpvHandle::set(const std::string &name, const MpvValue &value, std::uint64_
         engineLog("[Engine] property %s: %s", name.c_str(), mpv_error_string(error));
 }
 
+bool MpvHandle::setNow(const std::string &name, const MpvValue &value)
+{
+    NodeTree tree(value);
+    const int error = mpv_set_property(m_handle, name.c_str(), MPV_FORMAT_NODE, tree.root());
+    if (error < 0)
+        engineLog("[Engine] property %s: %s", name.c_str(), mpv_error_string(error));
+    return error >= 0;
+}
+
 void MpvHandle::get(const std::string &name, Format format, std::uint64_t id)
 {
     mpv_get_property_async(m_handle, id, name.c_str(), nativeFormat(format));

@@ -1,7 +1,8 @@
 // One instance of libmpv: the one place of the engine that calls it.
 //
 // Owned by a play (or for a moment by who asks for the sound devices). wait() belongs to one thread; all else
-// may be called from any thread. No operation waits for libmpv but readNow() and terminate().
+// may be called from any thread. No operation waits for libmpv but setNow(), readNow() and
+// terminate().
 #pragma once
 
 #include "MpvValue.h"
@@ -45,6 +46,8 @@ public:
     void commandNamed(const MpvMap &arguments, std::uint64_t id = 0);
     void observe(const std::string &name, Format format, std::uint64_t id);
 
+    // Waits for libmpv. False, with the reason in the log, where it refuses.
+    bool setNow(const std::string &name, const MpvValue &value);
     // Waits for libmpv.
     [[nodiscard]] MpvValue readNow(const std::string &name) const;
 

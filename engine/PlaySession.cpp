@@ -88,7 +88,7 @@ void PlaySession::run()
     options.insert(m_appliedPicture.begin(), m_appliedPicture.end());
     options["pause"] = !m_request.autoStart;
     m_passThrough = !options["audio-spdif"].text().empty();
-    m_mpv = MpvHandle::create(options);
+    m_mpv = m_context.spare ? m_context.spare->take(options) : MpvHandle::create(options);
     std::mutex idle;
     std::condition_variable woken;
     if (m_mpv) {

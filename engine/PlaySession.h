@@ -10,6 +10,7 @@
 #include "EngineThread.h"
 #include "LastFrame.h"
 #include "MpvHandle.h"
+#include "MpvSpare.h"
 #include "Notifier.h"
 #include "PictureOptions.h"
 #include "PlayFacts.h"
@@ -37,6 +38,7 @@ struct PlayContext {
     Notifier *notifier = nullptr;
     ResumeMemory *resume = nullptr;
     libvp::IVDOrbixCallback *orbix = nullptr;
+    MpvSpare *spare = nullptr; // may be null
     std::chrono::milliseconds openLimit{8000};
     // Looks at the source; tests put their own in its place.
     std::function<SourcePlan(const OpenRequest &)> makePlan = SourcePlan::make;

@@ -73,6 +73,7 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
     m_context.settings = &m_settings;
     m_context.notifier = &m_notifier;
     m_context.resume = &m_resume;
+    m_context.spare = &m_spare;
     m_context.orbix = orbix;
 
     std::string outputs = environment("ORBIX_VO");
@@ -94,7 +95,10 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
         engineLog("[Engine] no surface to draw into");
         return;
     }
-    m_valid = MpvHandle::create(m_settings.options()) != nullptr;
+    const MpvMap options = m_settings.options();
+    auto handle = MpvHandle::create(options);
+    m_valid = handle != nullptr;
+    m_spare.keep(std::move(handle), options);
 }
 
 PlayTool::~PlayTool()

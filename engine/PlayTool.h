@@ -7,6 +7,7 @@
 #include "AudioOutputs.h"
 #include "EngineSettings.h"
 #include "LogOnce.h"
+#include "MpvSpare.h"
 #include "Notifier.h"
 #include "Play.h"
 #include "ResumeMemory.h"
@@ -128,6 +129,7 @@ private:
     AudioOutputs m_outputs;
     Notifier m_notifier;
     Notifier::LinePtr m_line;
+    MpvSpare m_spare;
     PlayContext m_context;
     bool m_valid{false};
 

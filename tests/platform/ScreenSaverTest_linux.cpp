@@ -1,6 +1,7 @@
 #include "platform/ScreenSaver.h"
 
 #include "platform/ScreenSaverInhibitor_linux.h"
+#include "support/Sanitizers.h"
 #include "support/TestLog.h"
 
 #include <QDBusConnection>
@@ -54,6 +55,12 @@ protected:
                                        "--address=unix:path=" + m_folder.filePath("bus")});
         EXPECT_TRUE(m_daemon.waitForReadyRead(kPatienceMs));
         m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
+    }
+
+    void SetUp() override
+    {
+        if (Sanitizers::WatchesThreads)
+            GTEST_SKIP() << Sanitizers::BusThread;
     }
 
     ~ScreenSaverTest() override

@@ -1,5 +1,6 @@
 #include "WindowSystem.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 namespace {

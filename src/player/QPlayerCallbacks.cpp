@@ -5,6 +5,8 @@
 #include "NotificationScope.h"
 #include "PlayerText.h"
 
+#include <QDebug>
+
 namespace {
 
 // "[Engine] OnTitle(3)"

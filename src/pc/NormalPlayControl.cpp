@@ -92,9 +92,10 @@ bool NormalPlayControl::play(const QString &path, int title)
                                                QString::number(source.kind));
 
     m_order = {m_currentPath, m_sourceKind, m_titleNumber, source.cueTitle, m_resumeSeconds};
-    emit sourceAccepted(m_displayName);
+    // The window is changed while the source is being opened.
     m_setUp.start();
     m_playThread.start(QThread::InheritPriority);
+    emit sourceAccepted(m_displayName);
     return true;
 }
 

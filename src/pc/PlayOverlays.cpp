@@ -20,6 +20,8 @@
 namespace {
 
 constexpr int kRestMs = 3000;
+// A source that opens fast shows its first picture before the bars come.
+constexpr int kWakeMs = 250;
 
 // Design pixels from the edges of the picture.
 constexpr int kSide = 24;
@@ -58,6 +60,9 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
     , m_lastPosition(new NormalLastPositionLabel(window))
     , m_nextEpisode(new NormalTvshowAutoPlayLabel(episodes, window))
 {
+    m_wakeTimer.setSingleShot(true);
+    m_wakeTimer.setInterval(kWakeMs);
+    connect(&m_wakeTimer, &QTimer::timeout, this, &PlayOverlays::wake);
     m_restTimer.setSingleShot(true);
     m_restTimer.setInterval(kRestMs);
     connect(&m_restTimer, &QTimer::timeout, this, [this] {
@@ -111,6 +116,8 @@ void PlayOverlays::connectPlayer(QPlayer *player)
     connect(player, &QPlayer::sig_playStatusChanged, this, [this](QPlayer::QPlayerStatus status) {
         if (!m_hasSource)
             return;
+        if (m_wakeTimer.isActive())
+            wake();
         m_tip->showTip(tipOf(status));
         m_speed->slot_updateSpeed(status);
     });
@@ -127,13 +134,14 @@ void PlayOverlays::beginSource(const QString &displayName, const QString &path)
     m_nextEpisode->slot_hideLabel();
     m_nextEpisode->setSource(path);
     m_topBar->titleBar()->setText(displayName);
-    wake();
+    m_wakeTimer.start();
 }
 
 void PlayOverlays::endSource()
 {
     m_hasSource = false;
     m_staying = false;
+    m_wakeTimer.stop();
     m_restTimer.stop();
     m_lastPosition->slot_hideLabel();
     m_nextEpisode->slot_hideLabel();
@@ -161,6 +169,7 @@ void PlayOverlays::setMaximized(bool maximized)
 
 void PlayOverlays::wake()
 {
+    m_wakeTimer.stop();
     if (!m_hasSource)
         return;
     m_bar->appear();

@@ -75,6 +75,7 @@ private:
     NormalPlaySpeedBar *m_speed;
     NormalLastPositionLabel *m_lastPosition;
     NormalTvshowAutoPlayLabel *m_nextEpisode;
+    QTimer m_wakeTimer;
     QTimer m_restTimer;
     bool m_hasSource{false};
     bool m_staying{false};

@@ -24,7 +24,7 @@ inline constexpr int Black = 56;
         return std::nullopt;
     int number = 0;
     for (int cell = 0; cell < cells; ++cell) {
-        const int brightness = row[std::size_t(cell * CellWidth + CellWidth / 2)];
+        const int brightness = row[std::size_t(cell) * CellWidth + CellWidth / 2];
         const bool isWhite = brightness >= White;
         if ((!isWhite && brightness > Black) || (cell == 0 && !isWhite) || (cell == cells - 1 && isWhite))
             return std::nullopt;

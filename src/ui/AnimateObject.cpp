@@ -23,7 +23,7 @@ void AnimateObject::setAnimate(const QString &name, QSharedPointer<QAbstractAnim
 {
     removeAnimate(name);
     if (animation)
-        m_animations.insert(name, std::move(animation));
+        m_animations.insert(name, animation);
 }
 
 void AnimateObject::stopAll()

@@ -1,5 +1,6 @@
 #include "ui/QMoveableNoBordersWnd.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 
 #include <gtest/gtest.h>

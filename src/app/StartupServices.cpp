@@ -26,6 +26,7 @@
 #include "platform/ScreenSaver.h"
 #include "platform/SystemLanguage.h"
 #include "platform/WindowSystem.h"
+#include "player/EngineLoader.h"
 #include "player/QPlayer.h"
 #include "shell/FileAssociation.h"
 #include "tv/TvFileSystemManager.h"
@@ -180,7 +181,10 @@ void StartupServices::runFullUninstall()
 bool StartupServices::isFirstCopy(const QStringList &arguments)
 {
     m_guard = std::make_unique<SingleInstance>();
-    return m_guard->start(*m_application, arguments) == SingleInstance::Outcome::First;
+    if (m_guard->start(*m_application, arguments) != SingleInstance::Outcome::First)
+        return false;
+    LibraryEngineLoader::warmUp();
+    return true;
 }
 
 void StartupServices::writeBanner(const QStringList &arguments)

@@ -9,6 +9,7 @@
 #include <QImageReader>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QVariantAnimation>
 
 namespace {
@@ -201,9 +202,12 @@ void PosterView::startAnimate(QString name, bool forward)
 void PosterView::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    // Not before: now the size is known, and a program that starts with a film never reads it.
-    if (m_latest == 0)
-        setPoster({}, false);
+    // Not before: now the size is known, and a program that starts with a film, which takes the page's place
+    // at once, never reads it.
+    QTimer::singleShot(0, this, [this] {
+        if (m_latest == 0 && isVisible())
+            setPoster({}, false);
+    });
 }
 
 void PosterView::resizeEvent(QResizeEvent *event)

@@ -2,6 +2,8 @@
 
 #include "core/ApplicationInfoManager.h"
 
+#include <QThread>
+
 namespace {
 
 QString defaultFile()
@@ -22,6 +24,16 @@ LibraryEngineLoader::LibraryEngineLoader()
 LibraryEngineLoader::LibraryEngineLoader(const QString &file)
     : m_library(file)
 {
+}
+
+void LibraryEngineLoader::warmUp()
+{
+    QThread *reader = QThread::create([file = defaultFile()] {
+        // Not unloaded at the end of the object: whoever plays takes it over.
+        QLibrary(file).load();
+    });
+    QObject::connect(reader, &QThread::finished, reader, &QObject::deleteLater);
+    reader->start();
 }
 
 bool LibraryEngineLoader::load()

@@ -30,6 +30,11 @@ public:
     LibraryEngineLoader();
     explicit LibraryEngineLoader(const QString &file);
 
+    // Reads the default library in the background, so that the load that follows finds it in memory: it
+    // stands on some hundred other libraries, and the program has other things to do meanwhile. A failure is
+    // left to that load to tell.
+    static void warmUp();
+
     [[nodiscard]] bool load() override;
     [[nodiscard]] QString errorText() const override { return m_error; }
     [[nodiscard]] libvp::CreateVDPlayerFunction createFunction() const override { return m_create; }

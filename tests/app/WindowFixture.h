@@ -18,6 +18,8 @@ class WindowFixture : public testing::Test {
 protected:
     WindowFixture()
     {
+        // Windows of tests are no player that others on the session's bus should find.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + m_folder.filePath("no-bus").toLocal8Bit());
         // The window of the test before has ended the application; a loop that has run to its end takes that
         // back.
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);

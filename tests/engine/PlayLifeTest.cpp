@@ -153,6 +153,8 @@ TEST(PlayLife, SilentServerTimesOut)
     timer.restart();
     rig.close();
     EXPECT_LT(timer.elapsed(), 5500);
+    // A good file has the time that it has everywhere.
+    rig.tool->playContext().openLimit = PlayContext().openLimit;
     EXPECT_TRUE(rig.open(TestClips::path("short.mp4")));
 }
 

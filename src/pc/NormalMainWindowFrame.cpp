@@ -2,9 +2,9 @@
 #include "NormalMainWindow.h"
 
 #include "NormalPlayControl.h"
-#include "NormalTitleBar.h"
 #include "PcMediaSession.h"
-#include "PlayOverlays.h"
+#include "overlays/NormalTitleBar.h"
+#include "overlays/PlayOverlays.h"
 
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"

@@ -1,14 +1,14 @@
 // What mouse, keyboard and drops do in the window of PC mode.
 #include "NormalMainWindow.h"
 
-#include "NormalMessageBoxFactory.h"
-#include "NormalMetaView.h"
-#include "NormalOperateBar.h"
 #include "NormalPlayControl.h"
-#include "NormalStartView.h"
 #include "PcKeyActions.h"
-#include "PlayOverlays.h"
-#include "VolumeControl.h"
+#include "dialogs/NormalMessageBoxFactory.h"
+#include "overlays/NormalMetaView.h"
+#include "overlays/PlayOverlays.h"
+#include "start/NormalStartView.h"
+#include "transport/NormalOperateBar.h"
+#include "transport/VolumeControl.h"
 
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"

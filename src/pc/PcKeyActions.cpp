@@ -1,6 +1,6 @@
 #include "PcKeyActions.h"
 
-#include "VolumeControl.h"
+#include "transport/VolumeControl.h"
 
 #include "player/QPlayer.h"
 

@@ -1,6 +1,6 @@
 #include "PcMediaSession.h"
 
-#include "VolumeControl.h"
+#include "transport/VolumeControl.h"
 
 #include "core/ApplicationInfoManager.h"
 

@@ -3,13 +3,13 @@
 #include "WindowFixture.h"
 
 #include "core/SettingsKeys.h"
+#include "dialogs/NormalMessageBox.h"
 #include "keys/AppEventFilter.h"
-#include "pc/NormalMessageBox.h"
+#include "overlays/NormalTitleBar.h"
 #include "pc/NormalPlayControl.h"
 #include "pc/NormalPlayView.h"
-#include "pc/NormalStartView.h"
-#include "pc/NormalTitleBar.h"
 #include "playcontrol/RecentFiles.h"
+#include "start/NormalStartView.h"
 #include "ui/VideoSurface.h"
 
 #include <QApplication>

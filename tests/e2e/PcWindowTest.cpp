@@ -4,8 +4,8 @@
 #include "ProgramRun.h"
 
 #include "core/SettingsKeys.h"
-#include "pc/SeekTrack.h"
-#include "pc/TransportLayout.h"
+#include "transport/SeekTrack.h"
+#include "transport/TransportLayout.h"
 
 #include <QDebug>
 #include <QDir>

@@ -1,7 +1,7 @@
 // Player commands that note what was asked for.
 #pragma once
 
-#include "pc/PlayerCommands.h"
+#include "transport/PlayerCommands.h"
 
 #include <QStringList>
 

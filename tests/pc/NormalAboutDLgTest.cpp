@@ -1,4 +1,4 @@
-#include "pc/NormalAboutDLg.h"
+#include "dialogs/NormalAboutDLg.h"
 
 #include <QLabel>
 #include <QTest>

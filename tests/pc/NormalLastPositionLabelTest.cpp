@@ -1,4 +1,4 @@
-#include "pc/NormalLastPositionLabel.h"
+#include "overlays/NormalLastPositionLabel.h"
 
 #include "ui/LookTokens.h"
 #include "ui/OverlayHost.h"

@@ -1,4 +1,4 @@
-#include "pc/NormalMessageBoxFactory.h"
+#include "dialogs/NormalMessageBoxFactory.h"
 
 #include <QApplication>
 #include <QCheckBox>

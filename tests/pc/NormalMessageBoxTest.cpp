@@ -1,7 +1,7 @@
-#include "pc/NormalMessageBox.h"
+#include "dialogs/NormalMessageBox.h"
 
 #include "core/ApplicationInfoManager.h"
-#include "pc/MessageText.h"
+#include "dialogs/MessageText.h"
 
 #include <QCheckBox>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "TestSettings.h"
 
-#include "pc/NormalMetaView.h"
+#include "overlays/NormalMetaView.h"
 
 #include "core/SettingsKeys.h"
 

@@ -2,12 +2,12 @@
 #include "MouseMoves.h"
 #include "TestSettings.h"
 
-#include "pc/NormalOperateBar.h"
-#include "pc/NormalProgressBar.h"
-#include "pc/ThreeDMenu.h"
-#include "pc/TransportButton.h"
-#include "pc/VolumeControl.h"
-#include "pc/VolumeSlider.h"
+#include "transport/NormalOperateBar.h"
+#include "transport/NormalProgressBar.h"
+#include "transport/ThreeDMenu.h"
+#include "transport/TransportButton.h"
+#include "transport/VolumeControl.h"
+#include "transport/VolumeSlider.h"
 
 #include "core/SettingsKeys.h"
 #include "keys/KeyOperateType.h"

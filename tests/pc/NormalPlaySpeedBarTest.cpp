@@ -1,6 +1,6 @@
 #include "FakeCommands.h"
 
-#include "pc/NormalPlaySpeedBar.h"
+#include "transport/NormalPlaySpeedBar.h"
 
 #include <QAbstractButton>
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "MouseMoves.h"
 
-#include "pc/NormalProgressBar.h"
+#include "transport/NormalProgressBar.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,11 +1,11 @@
 // The start page: what it answers, how the keyboard gets around it, and how it looks. With QUORIN_LOOK_DIR
 // set the pictures are kept there for the eye.
-#include "pc/NormalStartView.h"
+#include "start/NormalStartView.h"
 
-#include "pc/FocusRing.h"
-#include "pc/PosterView.h"
-#include "pc/RecentCard.h"
-#include "pc/StartButton.h"
+#include "start/PosterView.h"
+#include "start/RecentCard.h"
+#include "start/StartButton.h"
+#include "ui/FocusRing.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "ui/LookTokens.h"

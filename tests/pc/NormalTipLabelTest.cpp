@@ -1,6 +1,6 @@
 #include "TestSettings.h"
 
-#include "pc/NormalTipLabel.h"
+#include "overlays/NormalTipLabel.h"
 
 #include "core/SettingsKeys.h"
 

@@ -1,4 +1,4 @@
-#include "pc/NormalTvshowAutoPlayLabel.h"
+#include "overlays/NormalTvshowAutoPlayLabel.h"
 
 #include <QLabel>
 #include <QPushButton>

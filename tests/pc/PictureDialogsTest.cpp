@@ -1,10 +1,10 @@
 #include "TestSettings.h"
 
 #include "core/SettingsKeys.h"
-#include "pc/DialogSlider.h"
-#include "pc/IPictureControl.h"
-#include "pc/NormalColorAdjustDlg.h"
-#include "pc/NormalVideoControlDlg.h"
+#include "dialogs/DialogSlider.h"
+#include "dialogs/IPictureControl.h"
+#include "dialogs/NormalColorAdjustDlg.h"
+#include "dialogs/NormalVideoControlDlg.h"
 
 #include <QPushButton>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "pc/PosterView.h"
+#include "start/PosterView.h"
 
 #include "support/TestLog.h"
 

@@ -1,4 +1,4 @@
-#include "pc/SeekTrack.h"
+#include "transport/SeekTrack.h"
 
 #include "ui/LookTokens.h"
 

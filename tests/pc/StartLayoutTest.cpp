@@ -1,4 +1,4 @@
-#include "pc/StartLayout.h"
+#include "start/StartLayout.h"
 
 #include <gtest/gtest.h>
 

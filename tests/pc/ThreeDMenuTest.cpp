@@ -1,6 +1,6 @@
 #include "TestSettings.h"
 
-#include "pc/ThreeDMenu.h"
+#include "transport/ThreeDMenu.h"
 
 #include "core/SettingsKeys.h"
 

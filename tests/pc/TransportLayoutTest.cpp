@@ -1,4 +1,4 @@
-#include "pc/TransportLayout.h"
+#include "transport/TransportLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "FakeCommands.h"
 #include "TestSettings.h"
 
-#include "pc/VolumeControl.h"
+#include "transport/VolumeControl.h"
 
 #include "core/SettingsKeys.h"
 

@@ -1,6 +1,6 @@
 #include "MouseMoves.h"
 
-#include "pc/VolumeSlider.h"
+#include "transport/VolumeSlider.h"
 
 #include <QApplication>
 #include <QSignalSpy>

@@ -1,5 +1,5 @@
-#include "pc/NormalLoadingDlg.h"
-#include "pc/NormalWaitingDlg.h"
+#include "dialogs/NormalLoadingDlg.h"
+#include "dialogs/NormalWaitingDlg.h"
 #include "ui/AnimationWaittingBar.h"
 
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "RecentCard.h"
 
-#include "FocusRing.h"
+#include "ui/FocusRing.h"
 
 #include "core/CommonInfoManager.h"
 #include "ui/FixedDigits.h"

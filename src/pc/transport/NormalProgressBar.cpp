@@ -1,6 +1,6 @@
 #include "NormalProgressBar.h"
 
-#include "FocusRing.h"
+#include "ui/FocusRing.h"
 
 #include "ui/FixedDigits.h"
 #include "ui/LookTokens.h"

@@ -1,7 +1,7 @@
 // The title bar while something plays: it hovers over the picture instead of taking room from it. GUI thread.
 #pragma once
 
-#include "NormalTransparentBar.h"
+#include "transport/NormalTransparentBar.h"
 
 class NormalTitleBar;
 

@@ -1,6 +1,6 @@
 #include "TransportButton.h"
 
-#include "FocusRing.h"
+#include "ui/FocusRing.h"
 
 #include "ui/LookTokens.h"
 #include "ui/TransportIcons.h"

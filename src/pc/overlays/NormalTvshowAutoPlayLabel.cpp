@@ -1,6 +1,6 @@
 #include "NormalTvshowAutoPlayLabel.h"
 
-#include "DialogLook.h"
+#include "dialogs/DialogLook.h"
 
 #include "playcontrol/PlayTimeText.h"
 #include "ui/LookTokens.h"

@@ -1,11 +1,11 @@
 #include "NormalStartView.h"
 
 #include "DropFrame.h"
-#include "FocusRing.h"
 #include "PosterView.h"
 #include "RecentCard.h"
 #include "StartButton.h"
 #include "StartHead.h"
+#include "ui/FocusRing.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "ui/DisplayScale.h"

@@ -1,14 +1,14 @@
 // What the controls of the transport bar do, and how they explain themselves.
 #include "NormalOperateBar.h"
 
-#include "BehaviourNames.h"
-#include "FocusRing.h"
 #include "NormalProgressBar.h"
 #include "OperateBarRows.h"
 #include "ThreeDMenu.h"
 #include "TransportButton.h"
 #include "VolumeControl.h"
 #include "VolumeSlider.h"
+#include "playcontrol/BehaviourNames.h"
+#include "ui/FocusRing.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -2,13 +2,13 @@
 
 #include "NormalLastPositionLabel.h"
 #include "NormalMetaView.h"
-#include "NormalOperateBar.h"
-#include "NormalPlaySpeedBar.h"
 #include "NormalTipLabel.h"
 #include "NormalTitleBar.h"
 #include "NormalTopBar.h"
 #include "NormalTvshowAutoPlayLabel.h"
-#include "VolumeControl.h"
+#include "transport/NormalOperateBar.h"
+#include "transport/NormalPlaySpeedBar.h"
+#include "transport/VolumeControl.h"
 
 #include "keys/AppEventFilter.h"
 #include "player/QPlayer.h"

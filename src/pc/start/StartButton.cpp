@@ -1,6 +1,6 @@
 #include "StartButton.h"
 
-#include "FocusRing.h"
+#include "ui/FocusRing.h"
 
 #include "ui/LookTokens.h"
 

@@ -1,7 +1,5 @@
 #include "NormalOperateBar.h"
 
-#include "BehaviourNames.h"
-#include "FocusRing.h"
 #include "NormalProgressBar.h"
 #include "OperateBarRows.h"
 #include "ThreeDMenu.h"
@@ -9,6 +7,8 @@
 #include "TransportTime.h"
 #include "VolumeControl.h"
 #include "VolumeSlider.h"
+#include "playcontrol/BehaviourNames.h"
+#include "ui/FocusRing.h"
 
 #include "core/SettingsManager.h"
 #include "ui/FixedDigits.h"

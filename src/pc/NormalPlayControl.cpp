@@ -51,6 +51,7 @@ NormalPlayControl::NormalPlayControl(SettingsManager &settings, DeferredSetup &s
     , m_playThread(&NormalPlayControl::playFunction, this)
     , m_stopThread(&NormalPlayControl::stopFunction, this)
 {
+    connect(&m_presence, &FilePresence::checked, this, &NormalPlayControl::followEnd);
 }
 
 NormalPlayControl::~NormalPlayControl()
@@ -75,6 +76,7 @@ bool NormalPlayControl::play(const QString &path, int title)
         qInfo().noquote() << "[Play control] request dropped:" << path;
         return false;
     }
+    m_presence.check({}); // whatever was to follow the last source
     const PlaySource source = m_paths.resolve(path);
     m_currentPath = source.path;
     m_displayName = source.displayName;
@@ -189,6 +191,7 @@ void NormalPlayControl::stopOnThread()
 
 void NormalPlayControl::finishEnded()
 {
+    m_presence.check({});
     m_hasSource = false;
     m_resumePending = false;
     emit waitingChanged(false);
@@ -211,30 +214,41 @@ void NormalPlayControl::slot_responsePlayState(QPlayer::QPlayerStatus status)
     case QPlayer::QPlayerStatus_Failed:
         emit idle();
         break;
-    case QPlayer::QPlayerStatus_Ended: {
-        const auto exists = [](const QString &path) { return QFileInfo::exists(path); };
-        const QString nextEpisode = m_nextEpisode ? m_nextEpisode() : QString();
+    case QPlayer::QPlayerStatus_Ended:
         emit idle();
-        switch (EndRule::after({m_closeAtEnd, nextEpisode, !m_waiting.isEmpty()}, exists)) {
-        case EndRule::Next::CloseWindow:
-            emit closeWanted();
-            break;
-        case EndRule::Next::PlayNextEpisode:
-            slot_onlyStopLater();
-            QTimer::singleShot(0, this, [this, nextEpisode] { play(nextEpisode); });
-            break;
-        case EndRule::Next::PlayNextInQueue:
-            slot_onlyStopLater();
-            QTimer::singleShot(0, this, &NormalPlayControl::playNext);
-            break;
-        default:
-            slot_onlyStopLater();
-            QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
-            break;
-        }
+        endReached();
+        break;
+    default:
         break;
     }
-    default:
+}
+
+void NormalPlayControl::endReached()
+{
+    if (!m_closeAtEnd)
+        slot_onlyStopLater();
+    const QString nextEpisode = m_nextEpisode && !m_closeAtEnd ? m_nextEpisode() : QString();
+    if (nextEpisode.isEmpty())
+        followEnd(nextEpisode, false);
+    else
+        m_presence.check({nextEpisode}); // its drive may sleep
+}
+
+void NormalPlayControl::followEnd(const QString &nextEpisode, bool isThere)
+{
+    const EndRule::State state{m_closeAtEnd, nextEpisode, !m_waiting.isEmpty()};
+    switch (EndRule::after(state, [isThere](const QString &) { return isThere; })) {
+    case EndRule::Next::CloseWindow:
+        emit closeWanted();
+        break;
+    case EndRule::Next::PlayNextEpisode:
+        QTimer::singleShot(0, this, [this, nextEpisode] { play(nextEpisode); });
+        break;
+    case EndRule::Next::PlayNextInQueue:
+        QTimer::singleShot(0, this, &NormalPlayControl::playNext);
+        break;
+    case EndRule::Next::BackToSelectView:
+        QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
         break;
     }
 }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/QSimpleThreadPack.h"
+#include "playcontrol/FilePresence.h"
 #include "playcontrol/MenuCase.h"
 #include "playcontrol/PositionStore.h"
 #include "player/PlayOrder.h"
@@ -100,6 +101,8 @@ private:
     void runOrder();
     void stopOnThread();
     void finishEnded();
+    void endReached();
+    void followEnd(const QString &nextEpisode, bool isThere);
     // Runs an action a little later, if this is still the source then.
     void laterForThisSource(int milliseconds, std::function<void()> action);
     [[nodiscard]] MenuCase::Source menuSource(const vdFileInfo &info) const;
@@ -113,6 +116,7 @@ private:
     QSimpleThreadPack m_stopThread;
     PlayOrder m_order;
     std::function<QString()> m_nextEpisode;
+    FilePresence m_presence; // asked for the next episode at the end of a source
     QStringList m_waiting;
 
     QString m_currentPath;

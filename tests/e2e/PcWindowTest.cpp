@@ -22,7 +22,12 @@ namespace {
 const QString kTitle = QStringLiteral("Quorin Player 6");
 const QString kClosed = QStringLiteral("********************** Quorin6 Closed **********************");
 constexpr QRgb kBlue = qRgb(0x20, 0x60, 0xc0);
+constexpr QRgb kGreen = qRgb(0x20, 0xa0, 0x40);
 constexpr int kColorTolerance = 12;
+constexpr int kEpisodeSeconds = 60;
+// Of the card that offers the next episode.
+constexpr QSize kEpisodeNoteSmallest{400, 110};
+constexpr QSize kEpisodeNoteLargest{440, 200};
 constexpr int kEndMs = 2000;
 constexpr int kFilmSeconds = 200;
 // A keyframe a second, so a seek may end that far from where it was asked for, and the session tells whole
@@ -104,6 +109,14 @@ protected:
         QDebug line(&text);
         line << m_window->rect() << m_window->overlays();
         return text.toStdString();
+    }
+
+    // A file of a show, beside the others.
+    QString episode(const QString &name, QRgb color) const
+    {
+        const QString path = m_home.filePath(name);
+        EXPECT_TRUE(QFile::copy(Clips::ofColor(QStringLiteral("episode.mkv"), color, kEpisodeSeconds), path));
+        return path;
     }
 
     QPoint middle() const { return m_window->rect().center(); }
@@ -290,6 +303,46 @@ TEST_F(PcWindowTest, AfterAStopTheNoteBringsThePositionBack)
     // Two plays and a stop have closed nothing that is not theirs.
     EXPECT_EQ(m_run->descriptor(0), input);
     EXPECT_EQ(m_session.status(), "Playing");
+}
+
+TEST_F(PcWindowTest, TheNextEpisodeIsOfferedInTheLastHalfMinuteAndPlaysAtAClick)
+{
+    const QString first = episode("road S01E01.mkv", kBlue);
+    episode("road S01E02.mkv", kGreen);
+    start({first});
+    ASSERT_TRUE(m_window->waitForTitle("road S01E01.mkv - " + kTitle));
+    ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));
+    EXPECT_TRUE(m_window->overlay(kEpisodeNoteSmallest, kEpisodeNoteLargest).isNull());
+    m_session.goTo(kEpisodeSeconds - 25);
+    QRect note;
+    ASSERT_TRUE(eventually([&] {
+        note = m_window->overlay(kEpisodeNoteSmallest, kEpisodeNoteLargest);
+        return !note.isNull();
+    })) << "no note of the next episode; "
+        << seen();
+    EXPECT_GT(note.center().x(), middle().x());
+    // "Play Now", at the lower left of the card.
+    m_window->click(note.bottomLeft() + QPoint(50, -28));
+    ASSERT_TRUE(m_window->waitForTitle("road S01E02.mkv - " + kTitle));
+    EXPECT_TRUE(Desktop::waitForMiddleColor(kGreen, kColorTolerance));
+    EXPECT_TRUE(
+        eventually([&] { return m_window->overlay(kEpisodeNoteSmallest, kEpisodeNoteLargest).isNull(); }));
+}
+
+TEST_F(PcWindowTest, TheNextEpisodePlaysByItselfAtTheEnd)
+{
+    const QString first = episode("road S01E01.mkv", kBlue);
+    episode("road S01E02.mkv", kGreen);
+    start({first});
+    ASSERT_TRUE(m_window->waitForTitle("road S01E01.mkv - " + kTitle));
+    ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));
+    m_session.goTo(kEpisodeSeconds - 3);
+    ASSERT_TRUE(m_window->waitForTitle("road S01E02.mkv - " + kTitle));
+    EXPECT_TRUE(Desktop::waitForMiddleColor(kGreen, kColorTolerance));
+    // None follows the last one.
+    ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));
+    m_session.goTo(kEpisodeSeconds - 3);
+    EXPECT_TRUE(m_window->waitForTitle(kTitle));
 }
 
 TEST_F(PcWindowTest, AMissingFileIsToldInADialogThatEnterCloses)

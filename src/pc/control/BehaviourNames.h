@@ -1,4 +1,4 @@
-// Names under which use of the transport controls is counted.
+// Names under which use of the player's controls is counted.
 #pragma once
 
 namespace BehaviourNames {
@@ -8,6 +8,7 @@ inline constexpr char RewindUsed[] = "RewindUsed";
 inline constexpr char LastChapterUsed[] = "LastChapterUsed";
 inline constexpr char NextChapterUsed[] = "NextChapterUsed";
 inline constexpr char FrameOperateUsed[] = "FrameOperateUsed";
+inline constexpr char ShaderUsed[] = "ShaderUsed";
 // Value of each of them.
 inline constexpr char Used[] = "true";
 

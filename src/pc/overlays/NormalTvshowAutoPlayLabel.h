@@ -4,8 +4,8 @@
 // source outlives the note. GUI thread.
 #pragma once
 
-#include "INextEpisodeSource.h"
 #include "PictureNote.h"
+#include "playcontrol/INextEpisodeSource.h"
 
 #include "player/QPlayer.h"
 

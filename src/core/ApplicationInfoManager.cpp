@@ -183,6 +183,11 @@ QString ApplicationInfoManager::applicationFolder() const
     return QCoreApplication::applicationDirPath();
 }
 
+QString ApplicationInfoManager::shaderFolder() const
+{
+    return applicationFolder() + QStringLiteral("/system/shaders/fx");
+}
+
 QString ApplicationInfoManager::languageFolder() const
 {
     return applicationFolder() + PlatformNames::languageFolderSuffix();

@@ -74,6 +74,8 @@ public:
     [[nodiscard]] QString mediaServerFolder() const;
     [[nodiscard]] QString audioDumpFile() const;
     [[nodiscard]] QString applicationFolder() const;
+    // Where the picture shaders lie that come with the program.
+    [[nodiscard]] QString shaderFolder() const;
     [[nodiscard]] QString languageFolder() const;
 
     // Debug switches: log lines of hot keys and of file associations.

@@ -9,6 +9,8 @@
 #include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalMessageBoxFactory.h"
 #include "dialogs/PcDialogs.h"
+#include "menus/OpticalDiscs.h"
+#include "menus/PlayMenu.h"
 #include "overlays/NormalLastPositionLabel.h"
 #include "overlays/NormalTitleBar.h"
 #include "overlays/NormalTopBar.h"
@@ -31,6 +33,7 @@
 #include "platform/ScreenSaver.h"
 #include "playcontrol/DropReader.h"
 #include "playcontrol/ErrorNote.h"
+#include "playcontrol/FolderEpisodes.h"
 #include "playcontrol/MenuCase.h"
 #include "playcontrol/PlayFailure.h"
 #include "playcontrol/ScreenshotWriter.h"
@@ -85,7 +88,7 @@ NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     makeMenu();
     m_setUp = new DeferredSetup(m_playView->surface(), this);
     m_control = new NormalPlayControl(m_settings, *m_setUp, sourcePaths(), this);
-    m_overlays = new PlayOverlays(this, m_stack, nullptr);
+    m_overlays = new PlayOverlays(this, m_stack, new FolderEpisodes(this));
     m_dialogs = new PcDialogs(this);
     m_screenshots = new ScreenshotWriter(this);
     m_session = new PcMediaSession(*m_overlays->bar()->volumeControl(), this);
@@ -95,6 +98,7 @@ NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     m_shadow = new WindowShadow(this);
     m_borders = std::make_unique<QDraggableNoBordersWnd>(this);
     m_borders->setMinimumSize(kMinimumSize);
+    makePlayMenu();
     connectParts();
     connectBar();
     connectControl();
@@ -137,6 +141,39 @@ void NormalMainWindow::makeMenu()
     m_menu->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     m_menu->setAttribute(Qt::WA_NoMouseReplay);
     connect(m_menu, &AnimateMenu::sig_showDialog, this, &NormalMainWindow::openDialog);
+}
+
+void NormalMainWindow::makePlayMenu()
+{
+    MenuHost host{m_settings,
+                  [this] { return m_player; },
+                  [this] { return m_control->hasSource(); },
+                  [this] { slot_openMedia(); },
+                  [this](const QString &drive) { slot_playSource(drive); },
+                  [this] { slot_loadSubtitle(); },
+                  [this] { openDialog(PopDlgTyle::SubtitleSetting); },
+                  [this] { slot_settingClicked(); },
+                  [this] { openDialog(PopDlgTyle::VideoControl); },
+                  [this] { openDialog(PopDlgTyle::ColorAdjust); },
+                  [this] { m_control->slot_stopLater(); },
+                  [this] { slot_fullScreen(); },
+                  [this] { toggleAlwaysOnTop(); },
+                  [this] { toggleInformation(); },
+                  [this](int seconds) { emit sig_seek(seconds); },
+                  [](const QString &name, const QString &value) {
+                      PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
+                  },
+                  ApplicationInfoManager::instance()->shaderFolder()};
+    m_playMenu = new PlayMenu(
+        std::move(host),
+        [](int operation) {
+            return AppEventFilter::instance()
+                ->keySequence(false, operation)
+                .toString(QKeySequence::NativeText);
+        },
+        this);
+    m_discs = new OpticalDiscs(this);
+    m_discs->refresh();
 }
 
 void NormalMainWindow::connectParts()
@@ -306,12 +343,13 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
 {
     m_player = player;
     m_keyActions = std::make_unique<PcKeyActions>(*player, *m_overlays->bar()->volumeControl(),
-                                                  [this](int seconds) { emit sig_seek(seconds); });
+                                                  [this](KeyOperateType type) { slot_hotKey(type); });
     m_control->connectPlayer(player);
     m_overlays->connectPlayer(player);
     m_session->connectPlayer(player);
     connect(player, &QPlayer::sig_playStatusChanged, this,
             [](QPlayer::QPlayerStatus status) { ScreenSaver::setPlaying(QPlayer::isMoving(status)); });
+    connect(player, &QPlayer::sig_DiscEventOccured, m_discs, &OpticalDiscs::refresh);
     connect(player, &QPlayer::sig_shotScreen, this, &NormalMainWindow::slot_saveScreenShot);
     connect(player, &QPlayer::sig_videoSizeChanged, this, &NormalMainWindow::slot_fitVideoSize);
 }

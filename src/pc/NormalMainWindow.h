@@ -26,11 +26,14 @@ class NormalPlayControl;
 class NormalPlayView;
 class NormalStartView;
 class NormalTitleBar;
+class OpticalDiscs;
 class PcDialogs;
 class PcKeyActions;
 class PcMediaSession;
+class PlayMenu;
 class PlayOverlays;
 class QDraggableNoBordersWnd;
+class QAction;
 class QPlayer;
 class QStackedWidget;
 class ScreenshotWriter;
@@ -72,6 +75,8 @@ public slots:
     void slot_aboutAction();
     void slot_menuClicked();
     void slot_hotKey(KeyOperateType type);
+    void slot_dealMenuAction(QAction *action);
+    void slot_settingClicked();
     // Steps of the volume, negative ones downwards.
     void slot_changeVolume(int nCount);
     void slot_changePoster(QVariant poster, bool bAnimate);
@@ -116,6 +121,7 @@ protected:
 private:
     void makeViews();
     void makeMenu();
+    void makePlayMenu();
     void connectParts();
     void connectTitleBar(NormalTitleBar *titleBar);
     void connectBar();
@@ -152,6 +158,8 @@ private:
     NormalPlayView *m_playView{nullptr};
     NormalAudioView *m_audioView{nullptr};
     AnimateMenu *m_menu{nullptr};
+    PlayMenu *m_playMenu{nullptr};
+    OpticalDiscs *m_discs{nullptr};
     PlayOverlays *m_overlays{nullptr};
     PcDialogs *m_dialogs{nullptr};
     DeferredSetup *m_setUp{nullptr};

@@ -4,6 +4,8 @@
 #include "NormalPlayControl.h"
 #include "PcKeyActions.h"
 #include "dialogs/NormalMessageBoxFactory.h"
+#include "menus/OpticalDiscs.h"
+#include "menus/PlayMenu.h"
 #include "overlays/NormalMetaView.h"
 #include "overlays/PlayOverlays.h"
 #include "start/NormalStartView.h"
@@ -21,38 +23,23 @@
 #include <QDebug>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QStackedWidget>
 
 void NormalMainWindow::slot_hotKey(KeyOperateType type)
 {
-    switch (type) {
-    case KeyOperate_OpenFile:
-        slot_openMedia();
-        return;
-    case KeyOperate_About:
+    if (type == KeyOperate_About)
         slot_aboutAction();
-        return;
-    case KeyOperate_Close:
+    else if (type == KeyOperate_Close)
         slot_closeClicked();
-        return;
-    case KeyOperate_FullScreen:
-        slot_fullScreen();
-        return;
-    case KeyOperate_AlwaysOnTop:
-        toggleAlwaysOnTop();
-        return;
-    case KeyOperate_ShowInformation:
-        toggleInformation();
-        return;
-    case KeyOperate_Stop:
-        if (m_control->hasSource())
-            m_control->slot_stopLater();
-        return;
-    default:
-        if (m_keyActions && m_control->hasSource())
-            m_keyActions->run(type);
-    }
+    else if (!m_playMenu->run(type) && m_keyActions && m_control->hasSource())
+        m_keyActions->run(type);
+}
+
+void NormalMainWindow::slot_dealMenuAction(QAction *action)
+{
+    m_playMenu->slot_dealMenuAction(action);
 }
 
 void NormalMainWindow::toggleInformation()
@@ -100,7 +87,17 @@ bool NormalMainWindow::focusNextPrevChild(bool next)
 
 void NormalMainWindow::contextMenuEvent(QContextMenuEvent *event)
 {
-    slot_menuClicked();
+    QVector<MenuState::Entry> discs;
+    const auto known = m_discs->discs();
+    for (const OpticalDiscs::Disc &disc : known)
+        discs.append(
+            {disc.drive, {}, disc.label.isEmpty() ? disc.drive + QLatin1Char(':') : disc.label, false});
+    m_discs->refresh(); // for the next time
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    m_playMenu->fill(menu, m_playMenu->state(discs));
+    connect(menu, &QMenu::triggered, this, &NormalMainWindow::slot_dealMenuAction);
+    menu->popup(event->globalPos());
     event->accept();
 }
 

@@ -1,4 +1,4 @@
-// What each key operation does in PC mode, as far as it concerns the running source: one row an operation.
+// What those key operations do in PC mode that concern the running source and stand in no menu: one row each.
 //
 // GUI thread. Works on the program's player; without a source nothing happens.
 #pragma once
@@ -12,16 +12,13 @@ class VolumeControl;
 
 class PcKeyActions final {
 public:
-    // Seconds of one step.
-    static constexpr int StepSeconds = 10;
+    // Runs an operation that another key has, wherever it belongs.
+    using Run = std::function<void(KeyOperateType type)>;
 
-    // A seek may wait for the disc: it goes where it holds up no window.
-    using Seek = std::function<void(int seconds)>;
-
-    PcKeyActions(QPlayer &player, VolumeControl &volume, Seek seek)
+    PcKeyActions(QPlayer &player, VolumeControl &volume, Run runOther)
         : m_player(player)
         , m_volume(volume)
-        , m_seek(std::move(seek))
+        , m_runOther(std::move(runOther))
     {
     }
 
@@ -29,12 +26,9 @@ public:
     bool run(KeyOperateType type);
 
 private:
-    void seekBy(int seconds);
-    void cycleAudio();
-    void cycleSubtitle();
     void arrow(int menuCommand, KeyOperateType type);
 
     QPlayer &m_player;
     VolumeControl &m_volume;
-    Seek m_seek;
+    Run m_runOther;
 };

@@ -29,12 +29,12 @@ inline bool reportDifference(const char *what, const char *unit, const std::vect
     return difference <= limit;
 }
 
-// The same for a share of our own that has nothing to be compared with.
-inline bool reportShare(const char *what, const std::vector<double> &percent, double limit)
+// The same for what has nothing to be compared with, in its own unit.
+inline bool reportOwn(const char *what, const char *unit, const std::vector<double> &values, double limit)
 {
-    const double share = median(percent);
-    std::printf("%-44s %9.1f %9s %-3s %8.1f  <= %-6.1f %s\n", what, share, "-", "%", share, limit,
-                share <= limit ? "kept" : "MISSED");
+    const double value = median(values);
+    std::printf("%-44s %9.1f %9s %-3s %8.1f  <= %-6.1f %s\n", what, value, "-", unit, value, limit,
+                value <= limit ? "kept" : "MISSED");
     std::fflush(stdout);
-    return share <= limit;
+    return value <= limit;
 }

@@ -137,7 +137,7 @@ int main(int argc, char **argv)
         }
     }
     std::printf("# %d fades of %zu steps\n", fades, steps);
-    bool kept = reportShare("steps of a fade later than 33 ms", late, LateLimit);
+    bool kept = reportOwn("steps of a fade later than 33 ms", "%", late, LateLimit);
     kept &= reportDifference("frames dropped while overlays fade", "%", dropped[0], dropped[1], DroppedLimit);
     return kept ? 0 : 1;
 }

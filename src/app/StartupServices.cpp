@@ -121,6 +121,7 @@ QStringList StartupServices::createApplication()
     // first, which costs a quarter of the start and 50 MB.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     m_application = std::make_unique<SingleApplication>(m_argc, m_argv);
+    WindowSystem::endWithDisplay();
     m_application->setOutsideSourceSink([] {
         PlayInfoStatisticsHelper::instance()->setSource(PlayInfoStatisticsHelper::Source::OutOfPlayer);
     });

@@ -2,3 +2,6 @@
 
 // There is one only.
 void WindowSystem::choose() {}
+
+// It never goes without the session.
+void WindowSystem::endWithDisplay() {}

@@ -249,4 +249,20 @@ TEST_F(ProgramTest, AMissingFileIsToldAndTheProgramRunsOn)
     EXPECT_TRUE(run.isRunning());
 }
 
+TEST_F(ProgramTest, ADisplayThatGoesAwayEndsItAtOnceAndInOrder)
+{
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x720x24", "-nolisten", "tcp"});
+    ASSERT_TRUE(server.waitForReadyRead(20000));
+    QProcessEnvironment display;
+    display.insert("DISPLAY", ":" + QString::fromLatin1(server.readLine()).trimmed());
+    ProgramRun run(m_home, {m_blue}, {}, display);
+    ASSERT_TRUE(m_home.waitForLog("OnPlayBackStarted"));
+    server.kill();
+    ASSERT_TRUE(server.waitForFinished(20000));
+    EXPECT_EQ(run.waitForEnd(), 1);
+    EXPECT_TRUE(m_home.log().contains("[Process] the display is gone"));
+    EXPECT_FALSE(m_home.log().contains(kClosed));
+}
+
 } // namespace

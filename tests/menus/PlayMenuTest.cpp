@@ -40,8 +40,8 @@ TEST_F(PlayMenuTest, WhileNothingPlaysOnlyOpeningSettingsAndFullScreenCanBeChose
 TEST_F(PlayMenuTest, TheRightColumnShowsKeysAndTheDisc)
 {
     open({{"D", {}, "A DISC", false}});
-    EXPECT_EQ(action("Open Media")->text(), "Open Media...\tCtrl+O");
-    EXPECT_EQ(action("open disc_D")->text(), "Open Disc\tA DISC");
+    EXPECT_EQ(action("Open Media")->text(), "Open Media...\t    Ctrl+O");
+    EXPECT_EQ(action("open disc_D")->text(), "Open Disc\t    A DISC");
     EXPECT_EQ(action("full Screen")->text(), "Full Screen");
 }
 

@@ -51,6 +51,15 @@ TEST_F(MetaViews, ListsTheTextsByTypeInAFixedOrder)
         QVector<Line>({{"Video", "HEVC 3840*2160"}, {"Audio", "AAC 2.0"}, {"Time", "00:00:05 / 00:01:00"}}));
 }
 
+TEST_F(MetaViews, ATitleIsListedWhereItHasANumber)
+{
+    view.setDisplayName(QStringLiteral("a.iso"));
+    view.slot_setMetaInfo(QPlayer::QPlayerMetaType_Title, QStringLiteral("None"));
+    EXPECT_TRUE(view.lines().isEmpty());
+    view.slot_setMetaInfo(QPlayer::QPlayerMetaType_Title, QStringLiteral("3"));
+    EXPECT_EQ(view.lines(), QVector<Line>({{"Title", "3"}}));
+}
+
 TEST_F(MetaViews, TheJoinedVideoLineStandsInOneRowWhicheverPartChanged)
 {
     view.setDisplayName(QStringLiteral("a.mkv"));

@@ -24,8 +24,9 @@ QString shown(const QString &text, const QString &note)
     shown.replace(QLatin1Char('&'), QLatin1String("&&"));
     // A tabulator begins the column at the right end.
     shown.replace(QLatin1Char('\t'), QLatin1Char(' '));
+    // The columns stand apart by no more than a letter otherwise.
     if (!note.isEmpty())
-        shown += QLatin1Char('\t') + QString(note).replace(QLatin1Char('\t'), QLatin1Char(' '));
+        shown += QStringLiteral("\t    ") + QString(note).replace(QLatin1Char('\t'), QLatin1Char(' '));
     return shown;
 }
 

@@ -112,7 +112,11 @@ QVector<QPair<QString, QString>> NormalMetaView::lines() const
     QVector<QPair<QString, QString>> result;
     for (const Row &row : kRows) {
         const QString text = m_texts.value(row.type);
-        if (!text.isEmpty())
+        // A file has no title that could be told by its number.
+        bool isNumber = true;
+        if (row.type == QPlayer::QPlayerMetaType_Title)
+            text.toInt(&isNumber);
+        if (!text.isEmpty() && isNumber)
             result.append({tr(row.label), text});
     }
     return result;

@@ -98,7 +98,8 @@ void PcMediaSession::setCover(const QImage &cover)
     if (!m_pictures)
         m_pictures = std::make_unique<QTemporaryDir>();
     // Another name for each: clients keep what they have read under one.
-    QFile::remove(m_metadata.artUrl.toLocalFile());
+    if (m_metadata.artUrl.isLocalFile())
+        QFile::remove(m_metadata.artUrl.toLocalFile());
     const QString file = m_pictures->filePath(QStringLiteral("cover-%1.jpg").arg(++m_pictureNumber));
     if (!m_pictures->isValid() || !cover.save(file)) {
         qInfo() << "[Media session] the cover can't be written:" << m_pictures->errorString();

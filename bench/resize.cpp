@@ -3,18 +3,14 @@
 // children, the overlays and the word to the engine included.
 //
 //   bench_resize ENGINE RESOURCES CLIP FOLDER RESIZES
+#include "PlayingWindow.h"
 #include "Report.h"
 
-#include "overlays/PlayOverlays.h"
 #include "pc/NormalMainWindow.h"
-#include "player/QPlayer.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QResizeEvent>
-#include <QResource>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -22,7 +18,6 @@
 namespace {
 
 constexpr double LimitMs = 8;
-constexpr int PatienceMs = 60000;
 constexpr int Steps = 40; // from one size to the other and back
 constexpr QSize Smallest{900, 560};
 constexpr int StepWidth = 8;
@@ -50,31 +45,6 @@ public:
     std::vector<double> milliseconds;
 };
 
-// Turns the event loop until the player tells that status; false when it does not.
-bool waitForStatus(QPlayer::QPlayerStatus wanted)
-{
-    QEventLoop loop;
-    bool isReached = QPlayer::instance()->status() == wanted;
-    QObject::connect(QPlayer::instance(), &QPlayer::sig_playStatusChanged, &loop,
-                     [&](QPlayer::QPlayerStatus status) {
-                         isReached = isReached || status == wanted;
-                         if (isReached)
-                             loop.quit();
-                     });
-    QTimer::singleShot(PatienceMs, &loop, &QEventLoop::quit);
-    if (!isReached)
-        loop.exec();
-    return isReached;
-}
-
-// One turn of what has come up, the paint of the new size included.
-void settle(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -83,40 +53,26 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "usage: bench_resize ENGINE RESOURCES CLIP FOLDER RESIZES\n");
         return 2;
     }
-    qputenv("QUORIN_ENGINE", argv[1]);
-    qputenv("HOME", argv[4]);
-    qputenv("XDG_DATA_HOME", argv[4]);
-    qputenv("XDG_CONFIG_HOME", argv[4]);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
-    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    const PlayingWindow::Files files{argv[1], argv[2], argv[3], argv[4]};
+    PlayingWindow::prepare(files);
     TimedApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    if (!QResource::registerResource(QString::fromLocal8Bit(argv[2]))) {
-        std::fprintf(stderr, "bench_resize: no resources in %s\n", argv[2]);
-        return 2;
-    }
     {
-        NormalMainWindow window(nullptr, true);
-        window.slot_playSource(QString::fromLocal8Bit(argv[3]));
-        if (!waitForStatus(QPlayer::QPlayerStatus_Playing)) {
+        PlayingWindow playing(files);
+        if (!playing.waitForPicture()) {
             std::fprintf(stderr, "bench_resize: the clip does not play\n");
             return 2;
         }
-        window.overlays()->wake();
-        settle(500);
+        NormalMainWindow &window = playing.window();
         application.watched = &window;
         const int resizes = std::max(Steps, std::atoi(argv[5]));
         for (int i = 0; i < resizes; ++i) {
             const int phase = i % Steps;
             const int step = phase < Steps / 2 ? phase : Steps - phase;
             window.resize(Smallest.width() + step * StepWidth, Smallest.height() + step * StepHeight);
-            settle(16);
+            PlayingWindow::settle(16);
         }
         application.watched = nullptr;
-        window.close();
     }
-    QPlayer::releaseInstance();
     if (application.milliseconds.empty()) {
         std::fprintf(stderr, "bench_resize: the window was not resized\n");
         return 2;

@@ -153,6 +153,11 @@ void PcWindow::click(const QPoint &point) const
     xdotool(at(point) + QStringList{"click", "1"});
 }
 
+void PcWindow::rightClick(const QPoint &point) const
+{
+    xdotool(at(point) + QStringList{"click", "3"});
+}
+
 void PcWindow::doubleClick(const QPoint &point) const
 {
     xdotool(at(point) + QStringList{"click", "--repeat", "2", "--delay", "60", "1"});

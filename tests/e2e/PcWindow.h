@@ -26,6 +26,7 @@ public:
 
     void moveTo(const QPoint &point) const;
     void click(const QPoint &point) const;
+    void rightClick(const QPoint &point) const;
     void doubleClick(const QPoint &point) const;
     void drag(const QPoint &from, const QPoint &to) const;
     // One notch of the wheel.

@@ -256,6 +256,20 @@ TEST_F(PcWindowTest, BarAndPointerGoThreeSecondsAfterTheLastMove)
     EXPECT_TRUE(eventually([this] { return !m_window->bar().isNull() && m_window->isPointerShown(); }, 1000));
 }
 
+TEST_F(PcWindowTest, TheMenuOfTheRightButtonActs)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlaying());
+    m_window->rightClick(middle());
+    // From below: the settings, then the information.
+    m_window->key("Up");
+    m_window->key("Up");
+    m_window->key("Return");
+    EXPECT_TRUE(eventually([this] { return !m_window->overlay({180, 100}, {560, 300}).isNull(); }))
+        << "no information; " << seen();
+    EXPECT_TRUE(
+        eventually([this] { return m_home.readSetting(QLatin1String(SettingsKeys::PC_ShowMeta)) == "true"; }));
+}
+
 TEST_F(PcWindowTest, ThePictureOfTheMomentGoesIntoTheConfiguredFolder)
 {
     ASSERT_NO_FATAL_FAILURE(startPlaying());

@@ -26,13 +26,17 @@ bool FrameDecoder::open(MediaInput &input, int stream)
     m_context->thread_count = 1;
     m_context->max_pixels = MaxPixels;
     m_draining = false;
+    m_keyFramesOnly = false;
     return avcodec_open2(m_context.get(), codec, nullptr) >= 0;
 }
 
-void FrameDecoder::setKeyFramesOnly(bool on)
+void FrameDecoder::setKeyFramesOnly(bool on, bool draft)
 {
-    if (m_context)
-        m_context->skip_frame = on ? AVDISCARD_NONKEY : AVDISCARD_DEFAULT;
+    m_keyFramesOnly = on;
+    if (!m_context)
+        return;
+    m_context->skip_frame = on ? AVDISCARD_NONKEY : AVDISCARD_DEFAULT;
+    m_context->skip_loop_filter = on && draft ? AVDISCARD_ALL : AVDISCARD_DEFAULT;
 }
 
 void FrameDecoder::flush()
@@ -50,14 +54,44 @@ AvFrame FrameDecoder::receive()
     return frame;
 }
 
+bool FrameDecoder::readPacket()
+{
+    while (m_input->read(*m_packet)) {
+        if (m_packet->stream_index == m_stream->index)
+            return true;
+    }
+    return false;
+}
+
+// A decoder keeps a frame back until those that may be shown before it have come. With none but key frames
+// that would be some groups of pictures later; told that nothing follows, it gives the frame at once.
+AvFrame FrameDecoder::nextKeyFrame()
+{
+    while (!m_draining && !m_input->deadline().isOver()) {
+        if (!readPacket()) {
+            m_draining = true;
+            break;
+        }
+        if (!(m_packet->flags & AV_PKT_FLAG_KEY))
+            continue;
+        AvFrame frame = decode(*m_packet);
+        avcodec_flush_buffers(m_context.get());
+        if (frame)
+            return frame;
+    }
+    return nullptr;
+}
+
 AvFrame FrameDecoder::next()
 {
+    if (m_context && m_keyFramesOnly)
+        return nextKeyFrame();
     while (m_context && !m_input->deadline().isOver()) {
         if (AvFrame frame = receive())
             return frame;
         if (m_draining)
             return nullptr;
-        if (!m_input->read(*m_packet)) {
+        if (!readPacket()) {
             if (m_input->deadline().isOver())
                 return nullptr;
             m_draining = true;
@@ -65,8 +99,7 @@ AvFrame FrameDecoder::next()
             continue;
         }
         // A packet that the decoder refuses is lost, not the stream.
-        if (m_packet->stream_index == m_stream->index)
-            avcodec_send_packet(m_context.get(), m_packet.get());
+        avcodec_send_packet(m_context.get(), m_packet.get());
     }
     return nullptr;
 }

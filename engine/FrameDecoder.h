@@ -12,8 +12,9 @@ public:
     // False when the stream cannot be decoded.
     bool open(MediaInput &input, int stream);
 
-    // Decodes key frames alone; holds until it is changed.
-    void setKeyFramesOnly(bool on);
+    // Decodes key frames alone; holds until it is changed. draft: without the filter that smoothes the edges
+    // of blocks, for pictures that are made much smaller anyway.
+    void setKeyFramesOnly(bool on, bool draft = false);
     // After a seek of the input.
     void flush();
 
@@ -27,10 +28,13 @@ public:
 
 private:
     [[nodiscard]] AvFrame receive();
+    [[nodiscard]] bool readPacket();
+    [[nodiscard]] AvFrame nextKeyFrame();
 
     MediaInput *m_input{nullptr};
     AVStream *m_stream{nullptr};
     AvCodecContext m_context;
     AvPacket m_packet;
     bool m_draining{false};
+    bool m_keyFramesOnly{false};
 };

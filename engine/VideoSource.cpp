@@ -9,11 +9,13 @@
 
 namespace {
 
-// Two time stamps of one moment may differ by the rounding of their units.
 // Positions are told in milliseconds of 31 bits.
 constexpr double FarthestSeconds = 2.0e6;
+// Two time stamps of one moment may differ by the rounding of their units.
 constexpr double SameMoment = 0.0015;
 constexpr double StepsBack[] = {0.0, 1.0, 3.0, 10.0, 30.0, 1e9};
+// What becomes this much smaller shows no edges of its blocks.
+constexpr int MuchSmaller = 3;
 
 } // namespace
 
@@ -93,7 +95,7 @@ bool VideoSource::seekTitle(double &seconds)
 AvFrame VideoSource::lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late)
 {
     AvFrame best;
-    m_decoder->setKeyFramesOnly(!exact);
+    m_decoder->setKeyFramesOnly(!exact, m_draft);
     while (AvFrame frame = m_decoder->next()) {
         const double time = m_decoder->secondsOf(*frame);
         if (!std::isnan(time) && time > target + SameMoment) {
@@ -132,8 +134,18 @@ AvFrame VideoSource::frameAt(double seconds, bool exact)
     return late;
 }
 
+bool VideoSource::isMuchLargerThan(int width, int height) const
+{
+    // After a seek in a disc that failed there is no input.
+    if (m_index < 0 || !m_input->context())
+        return false;
+    const AVCodecParameters *coded = m_input->context()->streams[m_index]->codecpar;
+    return coded->width / MuchSmaller >= width && coded->height / MuchSmaller >= height;
+}
+
 bool VideoSource::grab(double seconds, bool exact, int width, int height, Picture &picture)
 {
+    m_draft = isMuchLargerThan(width, height);
     seconds = std::clamp(seconds, 0.0, FarthestSeconds);
     AvFrame frame = frameAt(seconds, exact);
     // Streams that refresh bit by bit mark no frame as a key frame.

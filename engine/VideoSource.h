@@ -38,6 +38,7 @@ private:
     bool beginInput(const std::string &path, const char *format);
     bool seekFile(double seconds);
     bool seekTitle(double &seconds);
+    [[nodiscard]] bool isMuchLargerThan(int width, int height) const;
     AvFrame frameAt(double seconds, bool exact);
     AvFrame lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late);
 
@@ -48,4 +49,5 @@ private:
     std::unique_ptr<FrameDecoder> m_decoder;
     TitleStream *m_title{nullptr}; // m_stream, for a disc
     int m_index{-1};
+    bool m_draft{false}; // the picture under way becomes much smaller
 };

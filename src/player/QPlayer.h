@@ -259,7 +259,8 @@ public:
     int openThumbnails(const QString &path, int itemType, int titleNumber, int width, int height);
     void closeThumbnails();
     [[nodiscard]] int thumbnailHandle() const { return m_thumbnailHandle; }
-    [[nodiscard]] QImage grabThumbnail(int positionMs, bool exact = false);
+    // shownMs: the time of the picture that was found, where somebody asks for it.
+    [[nodiscard]] QImage grabThumbnail(int positionMs, bool exact = false, int *shownMs = nullptr);
     [[nodiscard]] PlayerPicture grabPicture(const QByteArray &requestJson);
 
     // Who knows the letters; the default is the program's letter table.

@@ -82,7 +82,7 @@ void QPlayer::closeThumbnails()
         core->closeThumbnailSession(handle);
 }
 
-QImage QPlayer::grabThumbnail(int positionMs, bool exact)
+QImage QPlayer::grabThumbnail(int positionMs, bool exact, int *shownMs)
 {
     const int handle = m_thumbnailHandle;
     auto core = m_core.use();
@@ -99,6 +99,8 @@ QImage QPlayer::grabThumbnail(int positionMs, bool exact)
         image = QImage(picture->data, picture->width, picture->height, picture->width * 4,
                        QImage::Format_RGBA8888)
                     .copy();
+    if (shownMs)
+        *shownMs = picture->positionMs;
     core->releasePicture(picture);
     return image;
 }

@@ -1,4 +1,4 @@
-// Names under which use of the player's controls is counted.
+// Names under which use of the player's controls and of what they open is counted.
 #pragma once
 
 namespace BehaviourNames {
@@ -9,6 +9,9 @@ inline constexpr char LastChapterUsed[] = "LastChapterUsed";
 inline constexpr char NextChapterUsed[] = "NextChapterUsed";
 inline constexpr char FrameOperateUsed[] = "FrameOperateUsed";
 inline constexpr char ShaderUsed[] = "ShaderUsed";
+// Pictures of the source were asked for: of a plain file, and of any other source.
+inline constexpr char NormalFileSmartViewUsed[] = "NormalFileSmartViewUsed";
+inline constexpr char OtherFileSmartViewUsed[] = "OtherFileSmartViewUsed";
 // Value of each of them.
 inline constexpr char Used[] = "true";
 

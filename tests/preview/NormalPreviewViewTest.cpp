@@ -179,6 +179,21 @@ TEST_F(NormalPreviewViewTest, EachZoomGivesAWidthOfWholePicturesThatStandsInTheM
     }
 }
 
+TEST_F(NormalPreviewViewTest, WholePicturesFillTheStripInEveryWindow)
+{
+    openFilled();
+    for (const int width : {400, 480, 800, 1000, 1280, 1366, 1920, 2560}) {
+        window.resize(width, 700);
+        for (int value = 0; value <= PreviewPlan::ZoomMost; ++value) {
+            view.slot_changeZoom(value);
+            const int cell = view.list()->visualRect(view.model()->index(0, 0)).width();
+            ASSERT_GT(cell, 0);
+            EXPECT_EQ(view.list()->viewport()->width() % cell, 0) << width << ' ' << value;
+            EXPECT_LE(view.width(), width);
+        }
+    }
+}
+
 TEST_F(NormalPreviewViewTest, AllRowsStandInOneLine)
 {
     openFilled();
@@ -293,6 +308,11 @@ TEST_F(NormalPreviewViewTest, ASourceWhosePicturesFailSaysSo)
     openFilled();
     EXPECT_EQ(rows(), 0);
     EXPECT_EQ(view.noteText(), QStringLiteral("There are no preview pictures for this source."));
+    EXPECT_FALSE(view.zoomSlider()->isEnabled());
+    EXPECT_LT(view.height(), 140);
+    EXPECT_FALSE(press(Qt::Key_Right));
+    EXPECT_TRUE(press(Qt::Key_Tab));
+    EXPECT_TRUE(press(Qt::Key_Escape));
     view.close();
     EXPECT_TRUE(view.noteText().isEmpty());
 }
@@ -331,6 +351,36 @@ TEST_F(NormalPreviewViewTest, MarksWhatPlaysAndStartsThere)
     EXPECT_TRUE(view.model()->item(31)->data(PreviewRoles::Playing).toBool());
     press(Qt::Key_Right);
     EXPECT_EQ(view.list()->currentIndex().row(), 31);
+}
+
+TEST_F(NormalPreviewViewTest, WhateverTheKeyboardReachesIsSeenAsAWhole)
+{
+    openFilled();
+    QCoreApplication::processEvents();
+    for (const int key : {Qt::Key_Right, Qt::Key_End, Qt::Key_Left, Qt::Key_PageUp, Qt::Key_Home,
+                          Qt::Key_PageDown, Qt::Key_PageDown}) {
+        EXPECT_TRUE(press(key));
+        const QRect place = view.list()->visualRect(view.list()->currentIndex());
+        EXPECT_GE(place.left(), 0) << key;
+        EXPECT_LE(place.right(), view.list()->viewport()->rect().right()) << key;
+        EXPECT_EQ(view.list()->horizontalScrollBar()->value() % place.width(), 0) << key;
+    }
+}
+
+TEST_F(NormalPreviewViewTest, ThePictureUnderThePointerIsFramed)
+{
+    openFilled();
+    QCoreApplication::processEvents();
+    QWidget *viewport = view.list()->viewport();
+    const QRect cell = view.list()->visualRect(view.model()->index(1, 0));
+    const QImage before = viewport->grab(cell).toImage();
+    const QImage other = viewport->grab(cell.translated(cell.width(), 0)).toImage();
+    QHoverEvent enter(QEvent::HoverEnter, cell.center(), QPoint(-1, -1));
+    QCoreApplication::sendEvent(viewport, &enter);
+    QHoverEvent move(QEvent::HoverMove, cell.center(), cell.center() - QPoint(1, 0));
+    QCoreApplication::sendEvent(viewport, &move);
+    EXPECT_NE(viewport->grab(cell).toImage(), before);
+    EXPECT_EQ(viewport->grab(cell.translated(cell.width(), 0)).toImage(), other);
 }
 
 TEST_F(NormalPreviewViewTest, TheWheelMovesTheStripSideways)

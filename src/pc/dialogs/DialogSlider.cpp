@@ -30,6 +30,12 @@ void DialogSlider::setNeutralValue(int value)
     update();
 }
 
+void DialogSlider::setMarkShown(bool shown)
+{
+    m_markShown = shown;
+    update();
+}
+
 QSize DialogSlider::sizeHint() const
 {
     return {Look::px(220), Look::px(Height)};
@@ -71,10 +77,12 @@ void DialogSlider::paintEvent(QPaintEvent *)
     };
     track(start, end, underMouse() ? Look::TrackHover : Look::Track);
     const double mark = xOf(m_neutral);
-    painter.setBrush(Look::color(Look::Mute));
-    painter.drawRoundedRect(
-        QRectF(mark - Look::px(1), middle - Look::px(MarkHeight) / 2.0, Look::px(2), Look::px(MarkHeight)),
-        Look::px(1), Look::px(1));
+    if (m_markShown) {
+        painter.setBrush(Look::color(Look::Mute));
+        painter.drawRoundedRect(QRectF(mark - Look::px(1), middle - Look::px(MarkHeight) / 2.0, Look::px(2),
+                                       Look::px(MarkHeight)),
+                                Look::px(1), Look::px(1));
+    }
     // The way from the neutral value tells which side the picture was moved to.
     track(mark, handle, isEnabled() ? Look::Accent : Look::Mute);
 

@@ -12,6 +12,8 @@ public:
 
     // The value that the mark stands at.
     void setNeutralValue(int value);
+    // Without the mark, where the neutral value is just an end of the range.
+    void setMarkShown(bool shown);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -28,4 +30,5 @@ private:
     [[nodiscard]] int valueAt(int x) const;
 
     int m_neutral{0};
+    bool m_markShown{true};
 };

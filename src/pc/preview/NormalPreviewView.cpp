@@ -31,6 +31,7 @@ constexpr int Side = 16;
 constexpr int HeadHeight = 48;
 constexpr int ScrollHeight = 10;
 constexpr int Foot = 8;
+constexpr int NoteHeight = 64;
 constexpr int FromWindow = 24; // left and right of the widest strip
 constexpr int SliderWidth = 132;
 constexpr int SliderHeight = 28;
@@ -101,12 +102,13 @@ void NormalPreviewView::makeParts()
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setMouseTracking(true);
     m_list->setCursor(Qt::PointingHandCursor);
     m_list->setFocusPolicy(Qt::TabFocus);
     m_list->installEventFilter(this);
+    m_list->viewport()->setAttribute(Qt::WA_Hover);
     m_list->viewport()->installEventFilter(this);
 
     m_zoom->setRange(0, PreviewPlan::ZoomMost);
@@ -116,6 +118,7 @@ void NormalPreviewView::makeParts()
     for (DialogSlider *slider : {m_zoom, m_quantity}) {
         slider->setPageStep(1);
         slider->setNeutralValue(slider->minimum());
+        slider->setMarkShown(false);
         slider->setFocusPolicy(Qt::TabFocus);
         slider->installEventFilter(this);
     }
@@ -137,6 +140,7 @@ void NormalPreviewView::connectParts()
             [this] { m_isFollowing = false; });
     connect(m_closeButton, &QAbstractButton::clicked, this, &NormalPreviewView::sig_closeClicked);
     connect(this, &NormalPreviewView::sig_clearCurrentIndex, m_list, [this] {
+        m_hasCursor = false;
         m_list->clearSelection();
         m_list->setCurrentIndex({});
     });
@@ -175,7 +179,9 @@ void NormalPreviewView::applySheet()
     };
     for (const auto &row : rows) {
         row.label->setStyleSheet(
-            QStringLiteral("background: transparent; color: %1; font-size: %2px; font-weight: %3;")
+            QStringLiteral("background: transparent; font-family: \"%1\"; color: %2; font-size: %3px;"
+                           " font-weight: %4;")
+                .arg(Look::font(row.size).families().join(QLatin1String("\", \"")))
                 .arg(Look::color(row.color).name())
                 .arg(Look::px(row.size))
                 .arg(row.weight == QFont::DemiBold ? 600 : 400));
@@ -216,7 +222,7 @@ void NormalPreviewView::open(int totalSeconds)
     for (int &position : positions)
         position *= MsASecond;
     showNote({});
-    emit sig_shapeChanged();
+    fitSize();
     appear();
     if (!isWindow())
         raise();
@@ -282,14 +288,32 @@ void NormalPreviewView::endFilling()
 
 void NormalPreviewView::showNote(const QString &text)
 {
+    const bool isNote = !text.isEmpty();
+    if (m_note->text() == text)
+        return;
     m_note->setText(text);
-    m_note->setVisible(!text.isEmpty());
-    m_list->setVisible(text.isEmpty());
+    m_note->setVisible(isNote);
+    m_list->setVisible(!isNote);
+    m_zoom->setEnabled(!isNote);
+    m_quantity->setEnabled(!isNote);
+    fitSize();
 }
 
 QString NormalPreviewView::noteText() const
 {
     return m_note->text();
+}
+
+// The host places it anew; without one it keeps its lower edge and stands in the middle by itself.
+void NormalPreviewView::fitSize()
+{
+    arrange();
+    emit sig_shapeChanged();
+    if (isWindow() || !parentWidget())
+        return;
+    const QSize size = sizeHint();
+    setGeometry((parentWidget()->width() - size.width()) / 2, geometry().bottom() + 1 - size.height(),
+                size.width(), size.height());
 }
 
 // ---- what is shown of it
@@ -300,18 +324,15 @@ void NormalPreviewView::slot_changeZoom(int nValue)
     m_zoom->setValue(nValue);
     const int middle = m_list->horizontalScrollBar()->value() + m_list->viewport()->width() / 2;
     const double share = double(middle) / std::max(1, m_cells.cell.width());
-    arrange();
-    emit sig_shapeChanged();
-    if (!isWindow() && parentWidget() && !m_list->visibleRegion().isEmpty()) {
-        // Without a host it stands in the middle by itself.
-        const QSize size = sizeHint();
-        setGeometry((parentWidget()->width() - size.width()) / 2, geometry().bottom() + 1 - size.height(),
-                    size.width(), size.height());
-    }
+    fitSize();
     // What was in the middle stays there.
     m_list->doItemsLayout();
-    m_list->horizontalScrollBar()->setValue(
-        int(share * m_cells.cell.width() - m_list->viewport()->width() / 2.0));
+    scrollToCell(qRound(share - m_cells.columns / 2.0));
+}
+
+void NormalPreviewView::scrollToCell(int cell)
+{
+    m_list->horizontalScrollBar()->setValue(cell * m_cells.cell.width());
 }
 
 void NormalPreviewView::slot_changeQuanlity(int nValue)
@@ -363,8 +384,9 @@ void NormalPreviewView::markPlaying()
 
 void NormalPreviewView::followPlaying()
 {
+    // In the middle, and with whole pictures at both ends.
     if (m_isFollowing && m_playingRow >= 0)
-        m_list->scrollTo(m_model->index(m_playingRow, 0), QAbstractItemView::PositionAtCenter);
+        scrollToCell(m_playingRow / PreviewPlan::stepOf(m_quantity->value()) - m_cells.columns / 2);
 }
 
 void NormalPreviewView::slot_seek(QModelIndex index)
@@ -373,6 +395,7 @@ void NormalPreviewView::slot_seek(QModelIndex index)
     if (!seconds.isValid() || m_state == State::Closed)
         return;
     m_isFollowing = false;
+    m_hasCursor = true;
     m_seek(seconds.toInt());
     emit sig_seeked();
 }
@@ -388,6 +411,8 @@ int NormalPreviewView::room() const
 
 int NormalPreviewView::listHeight() const
 {
+    if (!m_note->text().isEmpty())
+        return Look::px(NoteHeight);
     const auto cells =
         PreviewPlan::cells(m_zoom->value(), room(), double(DisplayScale::instance()->ratioWidth()));
     return cells.cell.height() + Look::px(ScrollHeight);
@@ -417,8 +442,11 @@ void NormalPreviewView::arrange()
     const int down = isCompact() ? 0 : qRound((1.0 - m_shown) * Look::px(Rise));
     const int side = Look::px(Side);
     const int head = Look::px(HeadHeight);
-    m_cells = PreviewPlan::cells(m_zoom->value(), std::max(width(), Look::px(LeastRoom)),
-                                 double(DisplayScale::instance()->ratioWidth()));
+    const double ratio = double(DisplayScale::instance()->ratioWidth());
+    m_cells = PreviewPlan::cells(m_zoom->value(), room(), ratio);
+    // Cut to an area that is narrower than the window.
+    if (width() < m_cells.stripWidth)
+        m_cells = PreviewPlan::cells(m_zoom->value(), width(), ratio);
     m_delegate->setCellSize(m_cells.cell);
 
     const auto place = [&](QWidget *part, int right, const QSize &size) {
@@ -434,7 +462,7 @@ void NormalPreviewView::arrange()
     } groups[] = {{m_quantity, m_quantityText}, {m_zoom, m_zoomText}};
     for (const auto &group : groups) {
         right = place(group.slider, right - Look::px(GroupGap) / 2, slider);
-        right = place(group.text, right - Look::px(Gap) / 2, group.text->sizeHint()) - Look::px(GroupGap) / 2;
+        right = place(group.text, right - Look::px(Gap), group.text->sizeHint()) - Look::px(GroupGap) / 2;
     }
     const QSize title = m_title->sizeHint();
     m_title->setVisible(side + title.width() <= right);

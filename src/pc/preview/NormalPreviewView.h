@@ -91,6 +91,8 @@ private:
     void connectParts();
     void applySheet();
     void arrange();
+    void fitSize();
+    void scrollToCell(int cell);
     void appendRow(int positionMs, const QByteArray &png);
     void endFilling();
     void clearRows();
@@ -110,6 +112,7 @@ private:
     QString m_sourcePath;
     int m_wantedRows{0};
     bool m_hasPicture{false};
+    bool m_hasCursor{false};   // the list's current picture was chosen by the user
     bool m_isFollowing{false}; // the list stays at what plays until the user moves it
     int m_playingSecond{0};
     int m_playingRow{-1};

@@ -8,13 +8,14 @@
 #include "ui/FocusRing.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListView>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 namespace {
 
@@ -58,10 +59,13 @@ bool NormalPreviewView::handleKey(QKeyEvent *event)
     if (m_state == State::Closed
         || (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
         return false;
-    const std::array<QWidget *, 4> stops{m_list, m_zoom, m_quantity, m_closeButton};
+    // Without pictures there is nothing but the way out.
+    std::vector<QWidget *> stops{m_closeButton};
+    if (m_note->text().isEmpty())
+        stops = {m_list, m_zoom, m_quantity, m_closeButton};
     const bool isUsed = window()->property(FocusRing::Property).toBool();
     const auto stop = std::find(stops.begin(), stops.end(), window()->focusWidget());
-    QWidget *current = isUsed && stop != stops.end() ? *stop : m_list;
+    QWidget *current = isUsed && stop != stops.end() ? *stop : stops.front();
     switch (event->key()) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab: {
@@ -80,7 +84,7 @@ bool NormalPreviewView::handleKey(QKeyEvent *event)
     case Qt::Key_Enter:
         if (current == m_closeButton)
             m_closeButton->click();
-        else if (current == m_list && m_list->currentIndex().isValid())
+        else if (current == m_list && m_hasCursor)
             slot_seek(m_list->currentIndex());
         else
             return false;
@@ -119,7 +123,7 @@ void NormalPreviewView::moveCursor(int key)
     const int last = m_model->rowCount();
     if (last == 0)
         return;
-    int row = m_list->currentIndex().isValid() ? m_list->currentIndex().row() : -1;
+    int row = m_hasCursor ? m_list->currentIndex().row() : -1;
     const auto move = [&](int direction, int count) {
         for (int i = 0; i < count; ++i) {
             const int next = nextRow(row, direction);
@@ -158,9 +162,13 @@ void NormalPreviewView::moveCursor(int key)
     m_isFollowing = false;
     m_list->setFocus(Qt::OtherFocusReason);
     setKeyboardUsed(true);
-    const QModelIndex index = m_model->index(row, 0);
-    m_list->setCurrentIndex(index);
-    m_list->scrollTo(index);
+    m_hasCursor = true;
+    m_list->setCurrentIndex(m_model->index(row, 0));
+    // By whole pictures, so that none is cut at the ends.
+    const int cell = row / PreviewPlan::stepOf(m_quantity->value());
+    const int first = m_list->horizontalScrollBar()->value() / std::max(1, m_cells.cell.width());
+    if (cell < first || cell >= first + m_cells.columns)
+        scrollToCell(cell < first ? cell : cell - m_cells.columns + 1);
 }
 
 void NormalPreviewView::setKeyboardUsed(bool used)

@@ -304,6 +304,32 @@ TEST_F(PreviewFetcherTest, AFillingOfNothingEndsAtOnce)
     EXPECT_FALSE(fetcher.isFilling());
 }
 
+TEST_F(PreviewFetcherTest, AfterTheShutDownTheSourceIsClosedAndNeverCalledAgain)
+{
+    fetcher.setSource(Film);
+    fetcher.request(1000);
+    ASSERT_EVENTUALLY(ready.contains(1000));
+    source->holdGrabs(true);
+    fetcher.fill({5000, 10000});
+    ASSERT_TRUE(source->waitInsideGrab());
+    fetcher.shutDown();
+    EXPECT_FALSE(fetcher.isWorking());
+    EXPECT_FALSE(source->isOpen());
+    source->holdGrabs(false);
+    const int opens = source->opens();
+    const int grabs = source->grabs().size();
+    fetcher.setSource(Film);
+    fetcher.request(2000);
+    fetcher.fill({5000});
+    fetcher.closeSession();
+    fetcher.shutDown();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(source->opens(), opens);
+    EXPECT_EQ(source->grabs().size(), grabs);
+    EXPECT_TRUE(rows.isEmpty());
+    EXPECT_FALSE(fetcher.isWorking());
+}
+
 TEST_F(PreviewFetcherTest, AFetcherThatGoesDuringAFetchClosesTheSession)
 {
     auto own = std::make_unique<PreviewFetcher>(source);

@@ -12,8 +12,17 @@ PreviewFetcher::PreviewFetcher(std::shared_ptr<IPreviewSource> source, qint64 ca
 
 PreviewFetcher::~PreviewFetcher()
 {
+    shutDown();
+}
+
+void PreviewFetcher::shutDown()
+{
+    if (!m_thread)
+        return;
+    m_path.clear();
+    m_fill = 0;
+    m_source = m_worker->setSource({});
     m_worker->setReceiver(nullptr, {});
-    m_worker->setSource({});
     m_thread.reset();
     // The thread may have ended before it came to closing the session.
     m_worker->run();
@@ -21,6 +30,8 @@ PreviewFetcher::~PreviewFetcher()
 
 void PreviewFetcher::setSource(const QString &path)
 {
+    if (!m_thread)
+        return;
     m_path = path;
     m_fill = 0;
     m_source = m_worker->setSource(path);
@@ -35,7 +46,7 @@ void PreviewFetcher::closeSession()
 
 void PreviewFetcher::work()
 {
-    if (m_worker->claimRun())
+    if (m_thread && m_worker->claimRun())
         m_thread->addTask([worker = m_worker] { worker->run(); });
 }
 

@@ -25,6 +25,10 @@ public:
                             QObject *parent = nullptr);
     ~PreviewFetcher() override;
 
+    // Ends the thread, and with it the source; nothing is fetched any more. Before the player goes: the
+    // thread must not meet it. Waits a bounded time.
+    void shutDown();
+
     // Empty: no source.
     void setSource(const QString &path);
     [[nodiscard]] QString sourcePath() const { return m_path; }

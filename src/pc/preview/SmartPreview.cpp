@@ -90,6 +90,12 @@ void SmartPreview::endSource()
     m_totalSeconds = 0;
 }
 
+void SmartPreview::shutDown()
+{
+    endSource();
+    m_fetcher->shutDown();
+}
+
 bool SmartPreview::isStripOpen() const
 {
     return m_strip->state() != NormalPreviewView::State::Closed;

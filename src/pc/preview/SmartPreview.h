@@ -43,6 +43,8 @@ public:
     void beginSource(const QString &path, Kind kind);
     // Stop, end or failure: both go, and the session with the source ends.
     void endSource();
+    // The player is about to go: ends the fetching thread, in a bounded time.
+    void shutDown();
 
     [[nodiscard]] bool isStripOpen() const;
     // A key of the window. False when the strip is closed or does not want it.

@@ -38,13 +38,3 @@ inline bool reportOwn(const char *what, const char *unit, const std::vector<doub
     std::fflush(stdout);
     return value <= limit;
 }
-
-// The same for a time of our own that has nothing to be compared with.
-inline bool reportTime(const char *what, const std::vector<double> &milliseconds, double limit)
-{
-    const double time = median(milliseconds);
-    std::printf("%-44s %9.1f %9s %-3s %8.1f  <= %-6.1f %s\n", what, time, "-", "ms", time, limit,
-                time <= limit ? "kept" : "MISSED");
-    std::fflush(stdout);
-    return time <= limit;
-}

@@ -144,7 +144,7 @@ int main(int argc, char **argv)
         }
     }
     bool isKept = reportRatio("time of a preview picture", "ms", medians[0], medians[1], TimeLimit);
-    isKept &= reportTime("hover to painted picture", all[0], HoverLimit);
-    isKept &= reportTime("first hover, with the file's opening", first, HoverLimit);
+    isKept &= reportOwn("hover to painted picture", "ms", all[0], HoverLimit);
+    isKept &= reportOwn("first hover, with the file's opening", "ms", first, HoverLimit);
     return isKept ? 0 : 1;
 }

@@ -39,6 +39,7 @@
 #include "playcontrol/ScreenshotWriter.h"
 #include "player/DeferredSetup.h"
 #include "player/workObject.h"
+#include "preview/SmartPreview.h"
 #include "ui/AnimateMenu.h"
 #include "ui/QDraggableNoBordersWnd.h"
 #include "ui/StyleLoader.h"
@@ -67,6 +68,11 @@ PlaySourcePath sourcePaths()
             [](const QString &drive) {
                 return drive.size() == 1 ? DriveLetters::instance()->volumeLabel(drive.at(0)) : QString();
             }};
+}
+
+void noteBehaviour(const QString &name, const QString &value)
+{
+    PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
 }
 
 } // namespace
@@ -160,9 +166,7 @@ void NormalMainWindow::makePlayMenu()
                   [this] { toggleAlwaysOnTop(); },
                   [this] { toggleInformation(); },
                   [this](int seconds) { emit sig_seek(seconds); },
-                  [](const QString &name, const QString &value) {
-                      PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
-                  },
+                  noteBehaviour,
                   ApplicationInfoManager::instance()->shaderFolder()};
     m_playMenu = new PlayMenu(
         std::move(host),
@@ -242,9 +246,11 @@ void NormalMainWindow::connectBar()
             &QDraggableNoBordersWnd::slot_resizeBorder);
     connect(bar, &NormalOperateBar::sig_message, this,
             [this](const QString &text) { NormalMessageBoxFactory::showNote(this, text); });
-    connect(bar, &NormalOperateBar::sig_userBehaviour, this, [](const QString &name, const QString &value) {
-        PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
-    });
+    connect(bar, &NormalOperateBar::sig_userBehaviour, this, noteBehaviour);
+    connect(m_overlays, &PlayOverlays::seekWanted, this, &NormalMainWindow::sig_seek);
+    connect(m_overlays->preview(), &SmartPreview::sig_message, this,
+            [this](const QString &text) { NormalMessageBoxFactory::showNote(this, text); });
+    connect(m_overlays->preview(), &SmartPreview::sig_userBehaviour, this, noteBehaviour);
     connect(m_overlays, &PlayOverlays::rested, this, [this] { setCursor(Qt::BlankCursor); });
     connect(m_overlays->lastPosition(), &NormalLastPositionLabel::sig_setupAudioSub, m_control,
             &NormalPlayControl::slot_setupLastPositionAudioSub);
@@ -402,6 +408,7 @@ void NormalMainWindow::onSourceOpened(bool isVideo)
     applyAlwaysOnTop(true);
     m_stack->setCurrentWidget(isVideo ? static_cast<QWidget *>(m_playView) : m_audioView);
     m_overlays->setStaying(!isVideo);
+    m_overlays->showOpened(m_control->currentPath(), m_control->isDisc());
     m_recent.add(m_control->displayName(), m_control->currentPath(),
                  RecentFiles::Type(m_control->sourceKind()));
     // A second reading of a disc would fight with the first for the laser.
@@ -582,6 +589,7 @@ void NormalMainWindow::closeEvent(QCloseEvent *event)
               static_cast<QObject *>(m_overlays), static_cast<QObject *>(m_overlays->bar())})
             disconnect(m_player, nullptr, listener, nullptr);
     }
+    m_overlays->preview()->shutDown();
     m_control->shutDown();
     m_worker.reset();
     m_placement.store(m_normalGeometry, maximized, fullScreen);

@@ -17,6 +17,7 @@
 #include "platform/WindowMessage.h"
 #include "playcontrol/DropReader.h"
 #include "player/QPlayer.h"
+#include "preview/SmartPreview.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -27,9 +28,23 @@
 #include <QMimeData>
 #include <QStackedWidget>
 
+#include <algorithm>
+#include <iterator>
+
 void NormalMainWindow::slot_hotKey(KeyOperateType type)
 {
-    if (type == KeyOperate_About)
+    // What the strip of pictures takes for itself.
+    constexpr KeyOperateType OfStrip[] = {KeyOperate_Up,         KeyOperate_Down,
+                                          KeyOperate_Left,       KeyOperate_Right,
+                                          KeyOperate_Accept,     KeyOperate_PreviousChapter,
+                                          KeyOperate_NextChapter};
+    if (m_overlays->preview()->isStripOpen()
+        && std::find(std::begin(OfStrip), std::end(OfStrip), type) != std::end(OfStrip))
+        return;
+    if (type == KeyOperate_SmartView) {
+        if (m_control->hasSource())
+            m_overlays->bar()->slot_clickPreview();
+    } else if (type == KeyOperate_About)
         slot_aboutAction();
     else if (type == KeyOperate_Close)
         slot_closeClicked();
@@ -63,6 +78,8 @@ void NormalMainWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (isPlayViewShown() && m_overlays->preview()->handleKey(event))
+        return;
     if (isPlayViewShown() && (isTab || m_overlays->isAwake()) && m_overlays->bar()->handleKey(event)) {
         m_overlays->wake();
         return;

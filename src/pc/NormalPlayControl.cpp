@@ -278,9 +278,10 @@ void NormalPlayControl::slot_responseVideoInfo(vdFileInfo info)
                                                    .arg(info.height)
                                                    .arg(QString::fromUtf8(info.codec).toLower()));
     m_player->setAuthorInfo(0);
+    const MenuCase::Source source = menuSource(info);
+    m_isDisc = source.disc != MenuCase::Disc::None;
     emit sourceOpened(isVideo);
 
-    const MenuCase::Source source = menuSource(info);
     const bool byMenu = MenuCase::playsByMenu(source, m_settings);
     emit seekControlChanged(MenuCase::seekControl(byMenu));
     const QString key = QLatin1String(SettingsKeys::PC_RememberPosition);

@@ -55,6 +55,8 @@ public:
     [[nodiscard]] QByteArray resumeImage() const { return m_stored.picture; }
     [[nodiscard]] int storedSeconds() const { return m_stored.seconds; }
     [[nodiscard]] int sourceKind() const { return m_sourceKind; }
+    // The open source is a disc, or the image or the folder of one.
+    [[nodiscard]] bool isDisc() const { return m_isDisc; }
 
     void connectPlayer(QPlayer *player);
 
@@ -124,6 +126,7 @@ private:
     QString m_mediaKind;
     int m_titleNumber{-1};
     int m_sourceKind{PlaySource::File};
+    bool m_isDisc{false};
     PositionStore::Entry m_stored; // what was known of the source when it was asked for
     int m_sourceNumber{0};
     int m_resumeSeconds{0};

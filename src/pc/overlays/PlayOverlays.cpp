@@ -12,6 +12,8 @@
 
 #include "keys/AppEventFilter.h"
 #include "player/QPlayer.h"
+#include "preview/PlayerPreviewSource.h"
+#include "preview/SmartPreview.h"
 #include "ui/OverlayHost.h"
 
 #include <QApplication>
@@ -29,7 +31,7 @@ constexpr int kUnderTitle = 64;
 constexpr int kUnderSpeed = 112;
 constexpr int kAboveBar = 128;
 
-enum Level { InformationLevel, NoteLevel, BarLevel };
+enum Level { InformationLevel, StripLevel, NoteLevel, BarLevel };
 
 int tipOf(QPlayer::QPlayerStatus status)
 {
@@ -59,6 +61,8 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
     , m_speed(new NormalPlaySpeedBar(window))
     , m_lastPosition(new NormalLastPositionLabel(window))
     , m_nextEpisode(new NormalTvshowAutoPlayLabel(episodes, window))
+    , m_preview(new SmartPreview(window, std::make_shared<PlayerPreviewSource>(),
+                                 [this](double seconds) { emit seekWanted(int(seconds)); }))
 {
     m_wakeTimer.setSingleShot(true);
     m_wakeTimer.setInterval(kWakeMs);
@@ -72,8 +76,8 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
     m_bar->setKeyText([](int operation) {
         return AppEventFilter::instance()->keySequence(false, operation).toString(QKeySequence::NativeText);
     });
-    // Nothing answers these two yet.
-    m_bar->setPlaceAvailable(TransportPlace::Preview, false);
+    m_preview->connectBar(m_bar);
+    // Nothing answers it yet.
     m_bar->setPlaceAvailable(TransportPlace::Playlist, false);
     m_tip->setSpeedText([] {
         auto *player = QPlayer::instance();
@@ -101,12 +105,14 @@ void PlayOverlays::place()
     };
     for (const auto &row : rows)
         m_host->add(row.widget, row.rule);
+    m_preview->addTo(*m_host, StripLevel, NoteLevel);
 }
 
 void PlayOverlays::connectPlayer(QPlayer *player)
 {
     connect(player, &QPlayer::sig_playStatusChanged, m_bar, &NormalOperateBar::slot_setUiByStatus);
     connect(player, &QPlayer::sig_timeChanged, m_bar, &NormalOperateBar::slot_setTimeInfo);
+    connect(player, &QPlayer::sig_timeChanged, m_preview, &SmartPreview::slot_setTimeInfo);
     connect(player, &QPlayer::sig_seekState, m_bar, &NormalOperateBar::slot_responseSeekState);
     connect(player, &QPlayer::sig_volumeChanged, m_bar->volumeControl(), &VolumeControl::showVolume);
     connect(player, &QPlayer::sig_muteChanged, m_bar->volumeControl(), &VolumeControl::showMute);
@@ -130,6 +136,7 @@ void PlayOverlays::beginSource(const QString &displayName, const QString &path)
     m_bar->slot_setTimeInfo(0, 0);
     m_meta->setDisplayName(displayName);
     m_speed->disappear();
+    m_preview->endSource();
     m_lastPosition->slot_hideLabel();
     m_nextEpisode->slot_hideLabel();
     m_nextEpisode->setSource(path);
@@ -137,8 +144,14 @@ void PlayOverlays::beginSource(const QString &displayName, const QString &path)
     m_wakeTimer.start();
 }
 
+void PlayOverlays::showOpened(const QString &path, bool isDisc)
+{
+    m_preview->beginSource(path, isDisc ? SmartPreview::Kind::Disc : SmartPreview::Kind::File);
+}
+
 void PlayOverlays::endSource()
 {
+    m_preview->endSource();
     m_hasSource = false;
     m_staying = false;
     m_wakeTimer.stop();
@@ -199,7 +212,7 @@ bool PlayOverlays::isAwake() const
 bool PlayOverlays::isHeld() const
 {
     if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr
-        || QApplication::mouseButtons() != Qt::NoButton)
+        || QApplication::mouseButtons() != Qt::NoButton || m_preview->isStripOpen())
         return true;
     const QPoint pointer = QCursor::pos();
     for (const OverlayWidget *bar :
@@ -214,5 +227,6 @@ void PlayOverlays::retranslate()
 {
     m_bar->retranslate();
     m_speed->retranslate();
+    m_preview->retranslate();
     m_topBar->titleBar()->retranslate();
 }

@@ -1,5 +1,5 @@
-// Everything that hovers over the picture in PC mode: transport bar, title, information, tips, speed, and the
-// notes of the last position and of the next episode.
+// Everything that hovers over the picture in PC mode: transport bar, title, information, tips, speed,
+// pictures of the source, and the notes of the last position and of the next episode.
 //
 // Makes them, places them through an OverlayHost and connects them with the player; the main window owns them
 // as their parent. Bar and title come with the mouse or the keyboard and go when both rest. GUI thread.
@@ -20,6 +20,7 @@ class OverlayHost;
 class OverlayWidget;
 class QPlayer;
 class QWidget;
+class SmartPreview;
 
 class PlayOverlays final : public QObject {
     Q_OBJECT
@@ -39,8 +40,12 @@ public:
     [[nodiscard]] NormalLastPositionLabel *lastPosition() const { return m_lastPosition; }
     [[nodiscard]] NormalTvshowAutoPlayLabel *nextEpisode() const { return m_nextEpisode; }
 
+    [[nodiscard]] SmartPreview *preview() const { return m_preview; }
+
     // A source is on its way.
     void beginSource(const QString &displayName, const QString &path);
+    // It is open; a disc has no pictures to show.
+    void showOpened(const QString &path, bool isDisc);
     // Nothing plays any more: all of them go at once.
     void endSource();
     // Bars that never rest, as over music.
@@ -62,6 +67,8 @@ public:
 signals:
     // The bars have gone by themselves.
     void rested();
+    // A picture of the source was chosen.
+    void seekWanted(int seconds);
 
 private:
     void place();
@@ -75,6 +82,7 @@ private:
     NormalPlaySpeedBar *m_speed;
     NormalLastPositionLabel *m_lastPosition;
     NormalTvshowAutoPlayLabel *m_nextEpisode;
+    SmartPreview *m_preview;
     QTimer m_wakeTimer;
     QTimer m_restTimer;
     bool m_hasSource{false};

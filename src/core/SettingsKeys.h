@@ -64,6 +64,8 @@ inline constexpr char PC_Deinterlace[] = "PC_Deinterlace";
 inline constexpr char PC_PixelRatio[] = "PC_PixelRatio";
 inline constexpr char PC_ZoomAmount[] = "PC_ZoomAmount";
 inline constexpr char PC_VerticalShift[] = "PC_VerticalShift";
+// Path of the shader that the user has chosen.
+inline constexpr char PC_CustomShader[] = "PC_CustomShader";
 
 // 3D
 inline constexpr char PC_3DEngine[] = "PC_3DEngine";

@@ -1,6 +1,9 @@
 #include "DeferredSetup.h"
 
+#include "EnginePreferences.h"
 #include "QPlayer.h"
+
+#include "core/SettingsManager.h"
 
 DeferredSetup::DeferredSetup(QWidget *surface, QObject *parent)
     : QObject(parent)
@@ -40,8 +43,16 @@ void DeferredSetup::goOn()
     }
     m_player->setVideoParent(m_surface, m_surface->winId());
     m_toolStep = true;
-    m_worker.setFunction([](void *player) { (void)static_cast<QPlayer *>(player)->ensureTool(); }, m_player);
+    m_worker.setFunction(&DeferredSetup::setUpOutput, m_player);
     m_worker.start();
+}
+
+// On the worker.
+void DeferredSetup::setUpOutput(void *player)
+{
+    auto &output = *static_cast<QPlayer *>(player);
+    if (output.ensureTool())
+        EnginePreferences(*SettingsManager::instance(), output).applyAll();
 }
 
 void DeferredSetup::finish(Outcome outcome)

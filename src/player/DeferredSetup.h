@@ -1,5 +1,6 @@
-// Brings the engine up without holding up the window: loads the library and sets the output up on a worker,
-// and comes back to the GUI thread in between to hand over the native window.
+// Brings the engine up without holding up the window: loads the library, sets the output up and hands over
+// the stored preferences on a worker, and comes back to the GUI thread in between to hand over the native
+// window.
 //
 // Lives on the GUI thread; both faces own one. waitUntilDone() is for the thread that plays: a request that
 // comes before the engine is up waits there and not in the window.
@@ -47,6 +48,7 @@ signals:
 private:
     enum Outcome { Pending, Ready, Failed, Cancelled };
 
+    static void setUpOutput(void *player);
     void goOn();
     void finish(Outcome outcome);
 

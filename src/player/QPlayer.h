@@ -234,6 +234,9 @@ public:
     void setSubtitleOverride(bool overrideStyle);
     void setSubtitleCharset(const QString &code);
     void setSubtitleOffset(float seconds);
+    // Whether the subtitle files that belong to a source are opened with it: those beside it, and those of a
+    // further folder, which may be empty. For the sources that are opened later.
+    void setSubtitleFiles(bool on, const QString &folder);
     // Empty switches it off. False when the file is missing or refused.
     bool setCustomShader(const QString &path);
     [[nodiscard]] QString customShader();

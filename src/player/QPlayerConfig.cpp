@@ -1,6 +1,7 @@
 // What the engine asks about the program and its surface. The texts are filled before the engine initialises
 // and never change, so the engine reads them without a lock.
 #include "QPlayer.h"
+#include "StoredPreferences.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/SettingsKeys.h"
@@ -32,11 +33,10 @@ void QPlayer::readConfiguration()
     m_texts.fontFolder = m_texts.applicationFolder + "/Fonts";
     m_texts.logFolder = engineLogFolder().toStdString();
     m_audioDump = application->audioDumpFile() + QStringLiteral("/PDATA");
-    if (m_settings->contains(SettingsKeys::PC_RegionCode)) {
-        const int region = m_settings->value(SettingsKeys::PC_RegionCode).toInt();
-        m_region.dvdRegion = region;
-        m_region.bluRayRegion = region;
-    }
+    const int region =
+        StoredPreferences(*m_settings, StoredPreferences::Absent::Stays).number(PreferenceRows::Region);
+    m_region.dvdRegion = region;
+    m_region.bluRayRegion = region;
 }
 
 QString QPlayer::engineLogFolder()

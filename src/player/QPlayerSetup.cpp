@@ -185,6 +185,12 @@ void QPlayer::setSubtitleOffset(float seconds)
     onTool([seconds](libvp::IVDPlayTool &tool) { tool.setSubtitleOffset(seconds); });
 }
 
+void QPlayer::setSubtitleFiles(bool on, const QString &folder)
+{
+    setStringProperty(EngineProperties::SubtitleFolder, folder.toUtf8());
+    setBoolProperty(EngineProperties::SubtitleFiles, on);
+}
+
 bool QPlayer::setCustomShader(const QString &path)
 {
     if (!path.isEmpty() && !QFileInfo(path).isFile()) {

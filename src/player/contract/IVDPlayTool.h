@@ -37,8 +37,8 @@ public:
     virtual int reserved6() { return 0; }
 
     // 7. False when the name is unknown; the same for 8 and 10. "videoscreen.limitedrange": output range 16
-    // to 235; "audiooutput.passthrough"; "subtitles.autoload": opens the subtitle files beside a source, off
-    // at first.
+    // to 235; "audiooutput.passthrough"; "subtitles.autoload": opens the subtitle files that
+    // belong to a source, off at first, for the plays that begin later.
     virtual bool setBoolProperty(const char *name, bool value) = 0;
 
     // 8. "videoscreen.stereoscopicmode": 0 auto, 1 red and cyan, 2 checkerboard, 3 rows, 4 frame packing, 9
@@ -51,6 +51,7 @@ public:
 
     // 10. "audiooutput.audiodevice", "audiooutput.passthroughdevice": device name; "subtitles.charset":
     // decimal Windows code page, "0" or empty detects it; "subtitles.outlinecolor": "#rrggbb";
+    // "subtitles.folder": where subtitle files may lie beside the source's own folder, empty for none;
     // "disc.drive.X": device, image or folder behind the drive letter X, empty forgets it; "video.output":
     // list of output drivers.
     virtual bool setStringProperty(const char *name, const char *value) = 0;

@@ -1,0 +1,76 @@
+// From the window's request to an engine that has its preferences.
+#include "support/Eventually.h"
+#include "support/FakeEngineLoader.h"
+
+#include "core/SettingsKeys.h"
+#include "core/SettingsManager.h"
+#include "player/DeferredSetup.h"
+#include "player/QPlayer.h"
+
+#include <QSignalSpy>
+
+#include <algorithm>
+
+namespace {
+
+class DeferredSetupTest : public testing::Test {
+protected:
+    DeferredSetupTest()
+    {
+        QPlayer::releaseInstance();
+        QPlayer::setLoaderFactory(fakeEngineLoader);
+        fakeEngine().reset();
+    }
+    ~DeferredSetupTest() override
+    {
+        fakeEngine().release("IVDPlayTool::audioDevices");
+        m_setUp.cancel();
+        QPlayer::releaseInstance();
+        SettingsManager::instance()->remove(QLatin1String(SettingsKeys::PC_EnableHardware));
+    }
+
+    static std::ptrdiff_t place(const std::string &call)
+    {
+        const auto calls = fakeEngine().calls();
+        const auto found = std::find(calls.begin(), calls.end(), call);
+        return found == calls.end() ? -1 : found - calls.begin();
+    }
+
+    QWidget m_surface;
+    DeferredSetup m_setUp{&m_surface};
+    QSignalSpy m_ready{&m_setUp, &DeferredSetup::ready};
+    QSignalSpy m_failed{&m_setUp, &DeferredSetup::failed};
+};
+
+} // namespace
+
+TEST_F(DeferredSetupTest, TheEngineHasThePreferencesWhenItIsReady)
+{
+    SettingsManager::instance()->setValue(QLatin1String(SettingsKeys::PC_EnableHardware), false);
+    m_setUp.start();
+    ASSERT_EVENTUALLY(m_ready.count() == 1);
+    EXPECT_GE(place("IVDPlayTool::enableHardwareDecoding(false)"), 0);
+    EXPECT_GE(place("IVDPlayTool::setRegion(1)"), 0);
+    EXPECT_GT(place("IVDPlayTool::enableHardwareDecoding(false)"), place("IVDPlayTool::isValid()"));
+    EXPECT_TRUE(m_setUp.waitUntilDone());
+}
+
+TEST_F(DeferredSetupTest, AnOutputThatFailsGetsNoPreferences)
+{
+    fakeEngine().answer("IVDPlayTool::isValid", 0);
+    m_setUp.start();
+    ASSERT_EVENTUALLY(m_failed.count() == 1);
+    EXPECT_EQ(place("IVDPlayTool::enableHardwareDecoding(true)"), -1);
+    EXPECT_EQ(m_ready.count(), 0);
+    EXPECT_FALSE(m_setUp.waitUntilDone());
+}
+
+TEST_F(DeferredSetupTest, TheWindowIsNotHeldUpBySlowSoundDevices)
+{
+    fakeEngine().hold("IVDPlayTool::audioDevices");
+    m_setUp.start();
+    ASSERT_EVENTUALLY(place("IVDPlayTool::audioDevices()") >= 0);
+    EXPECT_EQ(m_ready.count(), 0);
+    fakeEngine().release("IVDPlayTool::audioDevices");
+    ASSERT_EVENTUALLY(m_ready.count() == 1);
+}

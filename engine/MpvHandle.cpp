@@ -1,6 +1,7 @@
 #include "MpvHandle.h"
 
 #include "EngineLog.h"
+#include "MpvTextStream.h"
 
 #include <mpv/client.h>
 
@@ -223,6 +224,7 @@ std::unique_ptr<MpvHandle> MpvHandle::create(const MpvMap &options)
         }
     }
     mpv_request_log_messages(native, "warn");
+    MpvTextStream::addTo(native, *handle->m_textCodePage);
     const int error = mpv_initialize(native);
     if (error < 0) {
         engineLog("[Engine] libmpv cannot be set up: %s", mpv_error_string(error));
@@ -361,7 +363,7 @@ bool MpvHandle::terminate(std::chrono::milliseconds limit)
     if (!m_handle)
         return true;
     auto ending = std::make_shared<Ending>();
-    std::thread([ending, native = m_handle] {
+    std::thread([ending, native = m_handle, codePage = m_textCodePage] {
         mpv_terminate_destroy(native);
         const std::lock_guard<std::mutex> lock(ending->mutex);
         ending->done = true;

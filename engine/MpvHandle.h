@@ -1,4 +1,4 @@
-// One instance of libmpv: the one place of the engine that calls it.
+// One instance of libmpv: the one place of the engine that calls it, but for the texts of MpvTextStream.
 //
 // Owned by a play (or for a moment by who asks for the sound devices). wait() belongs to one thread; all else
 // may be called from any thread. No operation waits for libmpv but setNow(), readNow() and
@@ -7,6 +7,7 @@
 
 #include "MpvValue.h"
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 #include <string>
@@ -46,6 +47,10 @@ public:
     void commandNamed(const MpvMap &arguments, std::uint64_t id = 0);
     void observe(const std::string &name, Format format, std::uint64_t id);
 
+    // For subtitle files in a code page that libmpv cannot read: the chosen one, 0 guesses it. Files that are
+    // open already keep theirs until they are read again.
+    void setTextCodePage(int codePage) { *m_textCodePage = codePage; }
+
     // Waits for libmpv. False, with the reason in the log, where it refuses.
     bool setNow(const std::string &name, const MpvValue &value);
     // Waits for libmpv.
@@ -65,4 +70,6 @@ private:
     {
     }
     mpv_handle *m_handle;
+    // Of the instance, which may outlive this object.
+    std::shared_ptr<std::atomic<int>> m_textCodePage{std::make_shared<std::atomic<int>>(0)};
 };

@@ -28,5 +28,8 @@ struct PlayPreferences {
     bool pcmTap = false;
     bool informationOverlay = false;
     bool subtitlesAllowed = true; // false: none show unless asked for
+    bool subtitleFiles = false;   // open those that belong to a source
+    std::string subtitleFolder;   // looked through for them as well
+    int subtitleCodePage = 0;     // of Windows, 0 is found out for each file
     std::string customShader;     // absolute path
 };

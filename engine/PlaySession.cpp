@@ -92,6 +92,7 @@ void PlaySession::run()
     std::mutex idle;
     std::condition_variable woken;
     if (m_mpv) {
+        m_mpv->setTextCodePage(m_preferences.subtitleCodePage);
         m_thread.setWaker([this] { m_mpv->wakeUp(); });
         for (std::size_t row = 0; row < propertyRowCount; ++row) {
             if (propertyRows[row].read == PropertyRow::Read::Observed)

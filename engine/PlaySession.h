@@ -17,6 +17,7 @@
 #include "PlayReport.h"
 #include "SeekQueue.h"
 #include "ShaderWatch.h"
+#include "SidecarSubtitles.h"
 #include "SourcePlan.h"
 #include "SpeedControl.h"
 
@@ -114,6 +115,13 @@ private:
     void endedBeforeStart();
     void playFromTheBeginning();
 
+    // Subtitle files that belong to the source (PlaySessionSubtitles.cpp).
+    void lookForSubtitles();
+    void takeSubtitles(std::vector<SidecarSubtitle> files);
+    void addSubtitles();
+    void addSubtitleFile(std::size_t index);
+    void chooseSubtitle();
+
     // From the last frame to silence.
     void finish(Outcome outcome);
     void conclude(Outcome outcome, LastFrame frame);
@@ -157,7 +165,7 @@ private:
     void stepMotion();
     void settle();
     void afterApplied(std::function<void()> task);
-    void loadSubtitle(const std::string &path, const std::function<void(int)> &answer);
+    void loadSubtitle(const std::string &address, const std::function<void(int)> &answer);
     void doStep(int frames);
 
     // EngineSettings::Follower
@@ -209,6 +217,8 @@ private:
     std::map<std::uint64_t, Reply> m_replies;
     std::uint64_t m_lastReply;
     SourcePlan m_plan;
+    std::vector<SidecarSubtitle> m_subtitleFiles;
+    bool m_subtitleChosen{false}; // by the user
     PlayPreferences m_preferences;
     SourcePicture m_picture;
     MpvMap m_appliedPicture;

@@ -4,7 +4,9 @@
 #include "EngineLog.h"
 #include "LocalFile.h"
 #include "NativePath.h"
+#include "SubtitleText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <future>
@@ -154,6 +156,7 @@ void PlaySession::setSubtitleTrack(int index)
         const TrackList tracks = facts().tracks;
         if (m_state != State::Playing || index >= static_cast<int>(tracks.subtitles.size()))
             return;
+        m_subtitleChosen = true;
         if (index >= 0)
             m_mpv->set("sid", tracks.subtitles[static_cast<std::size_t>(index)].id);
         else if (index == VD_NoSubtitle)
@@ -210,7 +213,12 @@ int PlaySession::addSubtitle(const std::string &path)
     file.close();
     const auto answer = std::make_shared<std::promise<int>>();
     std::future<int> index = answer->get_future();
-    post([this, path, answer] { loadSubtitle(path, [answer](int found) { answer->set_value(found); }); });
+    std::error_code error;
+    const std::string absolute = std::filesystem::absolute(nativePath(path), error).u8string();
+    const std::string address = SubtitleText::addressOf(absolute);
+    post([this, address, answer] {
+        loadSubtitle(address, [answer](int found) { answer->set_value(found); });
+    });
     // The promise breaks when the play ends meanwhile.
     if (index.wait_for(subtitleLimit) != std::future_status::ready)
         return -1;
@@ -221,28 +229,35 @@ int PlaySession::addSubtitle(const std::string &path)
     }
 }
 
-void PlaySession::loadSubtitle(const std::string &path, const std::function<void(int)> &answer)
+void PlaySession::loadSubtitle(const std::string &address, const std::function<void(int)> &answer)
 {
     if (m_state != State::Playing) {
         answer(-1);
         return;
     }
-    const std::size_t before = facts().tracks.subtitles.size();
-    std::error_code error;
-    const std::string absolute = std::filesystem::absolute(nativePath(path), error).u8string();
-    const auto added = [this, before, answer](const MpvEvent &event) {
+    const auto indexOfFile = [this, file = SubtitleText::pathOf(address)] {
+        const std::vector<TrackList::Subtitle> tracks = facts().tracks.subtitles;
+        const auto found =
+            std::find_if(tracks.begin(), tracks.end(),
+                         [&file](const TrackList::Subtitle &track) { return track.file == file; });
+        return found == tracks.end() ? -1 : static_cast<int>(found - tracks.begin());
+    };
+    if (const int index = indexOfFile(); index >= 0) {
+        answer(index);
+        return;
+    }
+    const auto added = [this, indexOfFile, answer](const MpvEvent &event) {
         if (event.error < 0) {
             answer(-1);
             return;
         }
         m_mpv->get("track-list", MpvHandle::Format::Node,
-                   expect([this, before, answer](const MpvEvent &list) {
+                   expect([this, indexOfFile, answer](const MpvEvent &list) {
                        onTrackList(list.value);
-                       const std::size_t after = facts().tracks.subtitles.size();
-                       answer(after > before ? static_cast<int>(before) : -1);
+                       answer(indexOfFile());
                    }));
     };
-    m_mpv->command({"sub-add", absolute, "auto"}, expect(added));
+    m_mpv->command({"sub-add", address, "auto"}, expect(added));
 }
 
 MpvValue PlaySession::readProperty(const std::string &name)

@@ -283,6 +283,7 @@ void PlaySession::applyPreferences()
     m_preferences = m_context.settings->preferences();
     if (!m_mpv || m_state == State::Ending || m_state == State::Over)
         return;
+    m_mpv->setTextCodePage(m_preferences.subtitleCodePage);
     applyPicture();
     if (m_preferences.customShader != m_appliedShader)
         applyShader();

@@ -35,6 +35,7 @@ void PlaySession::load(SourcePlan plan)
     }
     takeResumeChoice();
     loadUrl();
+    lookForSubtitles();
 }
 
 void PlaySession::loadUrl()
@@ -138,6 +139,7 @@ void PlaySession::announceStart()
     applyPicture();
     applyTap();
     applyOverlay();
+    addSubtitles();
     checkEnd();
 }
 

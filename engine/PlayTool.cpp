@@ -184,8 +184,7 @@ const PlayTool::BoolRow PlayTool::boolRows[] = {
     {"audiooutput.passthrough", [](PlayTool &tool, bool on) { return tool.setPassThrough(on); }},
     {"subtitles.autoload",
      [](PlayTool &tool, bool on) {
-         tool.set("autoload-files", on);
-         tool.set("sub-auto", on ? "fuzzy" : "no");
+         tool.prefer([on](PlayPreferences &preferences) { preferences.subtitleFiles = on; });
          return true;
      }},
 };
@@ -225,7 +224,15 @@ const PlayTool::StringRow PlayTool::stringRows[] = {
      [](PlayTool &tool, const char *name) { return tool.setAudioDevice(name); }},
     {"subtitles.charset",
      [](PlayTool &tool, const char *codePage) {
+         // First what reads a file, then what makes libmpv read the open ones again.
+         const int number = SubtitleStyle::codePage(codePage);
+         tool.prefer([number](PlayPreferences &preferences) { preferences.subtitleCodePage = number; });
          tool.set("sub-codepage", SubtitleStyle::charset(codePage));
+         return true;
+     }},
+    {"subtitles.folder",
+     [](PlayTool &tool, const char *folder) {
+         tool.prefer([folder](PlayPreferences &preferences) { preferences.subtitleFolder = folder; });
          return true;
      }},
     {"subtitles.outlinecolor",

@@ -42,12 +42,17 @@ std::string color(const std::string &text)
     return valid ? text : std::string();
 }
 
-std::string charset(const std::string &codePage)
+int codePage(const std::string &text)
 {
-    const bool isNumber = !codePage.empty() && codePage.size() <= 5
-                          && std::all_of(codePage.begin(), codePage.end(),
-                                         [](unsigned char c) { return std::isdigit(c) != 0; });
-    const int number = isNumber ? std::atoi(codePage.c_str()) : 0;
+    const bool isNumber =
+        !text.empty() && text.size() <= 5
+        && std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+    return isNumber ? std::atoi(text.c_str()) : 0;
+}
+
+std::string charset(const std::string &text)
+{
+    const int number = codePage(text);
     if (number == 0)
         return "auto";
     for (const CharsetRow &row : charsetRows) {

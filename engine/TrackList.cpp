@@ -1,5 +1,7 @@
 #include "TrackList.h"
 
+#include "SubtitleText.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
@@ -58,6 +60,7 @@ TrackList::Subtitle readSubtitle(const MpvValue &track)
                                    ? 1
                                    : 0;
     subtitle.id = track.at("id").integer();
+    subtitle.file = SubtitleText::pathOf(track.at("external-filename").text());
     return subtitle;
 }
 

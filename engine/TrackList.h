@@ -20,6 +20,7 @@ public:
     struct Subtitle {
         libvp::VDSubtitleInfo record;
         std::int64_t id = 0;
+        std::string file; // of an external track
     };
 
     // From libmpv's property "track-list".

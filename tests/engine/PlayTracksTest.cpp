@@ -163,11 +163,12 @@ TEST_F(PlayTracks, CharsetIsAppliedToAFileThatIsOpen)
     EXPECT_TRUE(m_rig.waitForProperty("sub-text", "Привет"));
 }
 
-TEST_F(PlayTracks, SubtitleBesideTheSourceIsLeftAlone)
+TEST_F(PlayTracks, ASubtitleFileThatIsOpenAlreadyIsNotAddedTwice)
 {
-    EXPECT_EQ(m_rig.tool->readProperty("sub-auto"), MpvValue(false));
-    ASSERT_TRUE(m_rig.tool->setBoolProperty("subtitles.autoload", true));
-    EXPECT_TRUE(m_rig.waitForProperty("sub-auto", "fuzzy"));
+    const int index = m_rig.play->addSubtitle(TestClips::path("dark.srt").c_str());
+    ASSERT_EQ(index, 3);
+    EXPECT_EQ(m_rig.play->addSubtitle(TestClips::path("dark.srt").c_str()), index);
+    EXPECT_EQ(m_rig.play->subtitleCount(0), 4);
 }
 
 } // namespace

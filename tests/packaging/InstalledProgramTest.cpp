@@ -21,7 +21,9 @@ TEST(InstalledProgramTest, TheProgramLiesBesideAllThatItLooksFor)
         EXPECT_TRUE(folder.exists(name)) << name;
         EXPECT_GT(QFileInfo(folder.filePath(name)).size(), 0) << name;
     }
-    EXPECT_TRUE(QFileInfo(folder.filePath("system")).isDir());
+    EXPECT_GE(QDir(folder.filePath("system/shaders/fx")).entryList({"*.fx"}, QDir::Files).size(), 3)
+        << "the effects of the menu";
+    EXPECT_FALSE(folder.exists("system/CMakeLists.txt"));
 
     int languages = 0;
     const QStringList sources = QDir(QUORIN_TRANSLATIONS).entryList({"Quorin6_*.ts"});

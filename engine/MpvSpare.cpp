@@ -29,6 +29,12 @@ void MpvSpare::keep(std::unique_ptr<MpvHandle> handle, MpvMap options)
     m_options = std::move(options);
 }
 
+MpvValue MpvSpare::read(const std::string &name)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_handle ? m_handle->readNow(name) : MpvValue();
+}
+
 std::unique_ptr<MpvHandle> MpvSpare::take(const MpvMap &options)
 {
     std::unique_ptr<MpvHandle> handle;

@@ -17,6 +17,9 @@ public:
     // libmpv refuses.
     std::unique_ptr<MpvHandle> take(const MpvMap &options);
 
+    // A property of the spare instance, nothing when there is none. Waits for libmpv.
+    [[nodiscard]] MpvValue read(const std::string &name);
+
 private:
     std::mutex m_mutex;
     std::unique_ptr<MpvHandle> m_handle;

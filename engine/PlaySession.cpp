@@ -273,12 +273,13 @@ void PlaySession::storeResumeChoice()
     ResumeMemory::Choice choice;
     const auto audio = static_cast<std::size_t>(now.tracks.selectedAudio);
     const auto subtitle = static_cast<std::size_t>(now.tracks.selectedSubtitle);
-    // A file that was added is not there at the next time.
+    // A file that was added by hand is not there at the next time.
     if (now.tracks.selectedAudio >= 0 && !now.tracks.audio[audio].isExternal)
         choice.audio = now.tracks.selectedAudio;
     if (now.tracks.selectedSubtitle < 0)
         choice.subtitle = now.tracks.subtitles.empty() ? VD_DefaultChoice : VD_NoSubtitle;
-    else if (!now.tracks.subtitles[subtitle].record.isExternal)
+    else if (!now.tracks.subtitles[subtitle].record.isExternal
+             || belongsToSource(now.tracks.subtitles[subtitle].file))
         choice.subtitle = now.tracks.selectedSubtitle;
     choice.angle = m_request.angle >= 0 ? m_request.angle : VD_DefaultChoice;
     m_context.resume->store(m_request.path, choice);

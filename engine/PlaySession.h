@@ -121,6 +121,7 @@ private:
     void addSubtitles();
     void addSubtitleFile(std::size_t index);
     void chooseSubtitle();
+    [[nodiscard]] bool belongsToSource(const std::string &subtitleFile) const;
 
     // From the last frame to silence.
     void finish(Outcome outcome);

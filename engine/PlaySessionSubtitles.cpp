@@ -123,3 +123,9 @@ void PlaySession::chooseSubtitle()
     if (!isForeign || !hasWanted)
         m_mpv->set("sid", bestId);
 }
+
+bool PlaySession::belongsToSource(const std::string &subtitleFile) const
+{
+    return std::any_of(m_subtitleFiles.begin(), m_subtitleFiles.end(),
+                       [&subtitleFile](const SidecarSubtitle &file) { return file.path == subtitleFile; });
+}

@@ -65,6 +65,9 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
     , m_callback(callback)
     , m_drives(drives)
     , m_outputs([this] {
+        MpvValue list = m_spare.read("audio-device-list");
+        if (!list.isNone())
+            return list;
         const auto probe = MpvHandle::create(m_settings.options());
         return probe ? probe->readNow("audio-device-list") : MpvValue();
     })

@@ -26,6 +26,16 @@ TEST(MpvSpare, GivesTheInstanceThatWasKeptWithTheOptionsThatAreWanted)
     EXPECT_EQ(handle->readNow("pause"), MpvValue(true));
 }
 
+TEST(MpvSpare, AnswersWithWhatTheKeptInstanceHas)
+{
+    MpvSpare spare;
+    EXPECT_TRUE(spare.read("volume").isNone());
+    spare.keep(MpvHandle::create(kQuiet), kQuiet);
+    EXPECT_EQ(spare.read("volume"), MpvValue(40.0));
+    ASSERT_TRUE(spare.take(kQuiet));
+    EXPECT_TRUE(spare.read("volume").isNone()) << "it belongs to a play now";
+}
+
 TEST(MpvSpare, GivesItOnce)
 {
     MpvSpare spare;

@@ -5,7 +5,7 @@
 //!BIND HOOKED
 //!DESC film grain
 
-#define STRENGTH 0.10
+#define STRENGTH 0.08
 
 float noise(vec2 place)
 {

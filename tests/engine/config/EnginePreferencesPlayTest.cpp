@@ -4,6 +4,7 @@
 #include "support/Eventually.h"
 #include "support/TestLog.h"
 
+#include "core/ApplicationInfoManager.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 #include "engine/EngineCore.h"
@@ -117,6 +118,24 @@ TEST_F(EnginePreferencesPlay, VideoChoicesAreInForceInThePlayThatFollows)
     EXPECT_TRUE(has("tone-mapping", "hable"));
     EXPECT_TRUE(has("target-peak", [](const MpvValue &value) { return value.integer() == 102; }));
     EXPECT_TRUE(has("video-output-levels", "limited"));
+}
+
+TEST_F(EnginePreferencesPlay, LibmpvTakesEachOfThem)
+{
+    EnginePreferences preferences(m_settings, *m_player);
+    preferences.applyAll();
+    open("plain.mp4");
+    set(SettingsKeys::PC_Speaker, 2);
+    set(SettingsKeys::PC_OverrideAss, true);
+    set(SettingsKeys::PC_OutLine, true);
+    preferences.applyAll();
+    EXPECT_TRUE(has("sub-ass-override", "force"));
+    QFile log(ApplicationInfoManager::instance()->logFolder() + "/Orbix.log");
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    const QByteArray lines = log.readAll();
+    EXPECT_TRUE(lines.contains("[Play] started")) << "it is this play's log";
+    EXPECT_FALSE(lines.contains("[Engine] property")) << lines.toStdString();
+    EXPECT_FALSE(lines.contains("[Engine] option")) << lines.toStdString();
 }
 
 TEST_F(EnginePreferencesPlay, ASaveWhileAPlayRunsChangesIt)

@@ -3,6 +3,7 @@
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 #include "playcontrol/BehaviourNames.h"
+#include "player/EnginePreferences.h"
 #include "player/QPlayer.h"
 
 #include <QCoreApplication>
@@ -95,7 +96,7 @@ void useShader(MenuHost &host, const QString &name)
     QPlayer &player = *host.player();
     const QString path = MenuRows::shaderPath(host, name);
     const bool isInUse = !path.isEmpty() && QFileInfo(player.customShader()) == QFileInfo(path);
-    player.setCustomShader(isInUse ? QString() : path);
+    EnginePreferences(host.settings, player).applyShader(isInUse ? QString() : path);
     host.noteUse(QLatin1String(BehaviourNames::ShaderUsed), QLatin1String(BehaviourNames::Used));
 }
 

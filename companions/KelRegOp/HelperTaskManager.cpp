@@ -1,0 +1,6 @@
+#include "HelperTaskManager.h"
+
+RegResult HelperTaskManager::Execute()
+{
+    return executeAll(Servers::Run);
+}

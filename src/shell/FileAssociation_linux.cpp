@@ -1,72 +1,103 @@
 #include "FileAssociation.h"
 
-#include "core/ApplicationInfoManager.h"
+#include "DesktopEntries_linux.h"
+#include "MimeAppsList_linux.h"
 
-#include <QCoreApplication>
+#include "core/CommonInfoManager.h"
+
 #include <QDebug>
-#include <QDir>
-#include <QSaveFile>
-#include <QStandardPaths>
+
+#include <mutex>
 
 namespace {
 
-constexpr char kAutoplayEnding[] = "-autoplay.desktop";
-constexpr char kApplicationEnding[] = ".desktop";
+// The name under which the list keeps the types of discs; no extension has a point.
+constexpr char kDiscs[] = "x.discs";
 
-// What the desktop calls the media that the player handles on arrival.
-constexpr char kDiscTypes[] = "x-content/video-dvd;x-content/video-bluray;x-content/video-vcd;";
-
-QString entryPath(const char *ending)
+std::mutex &oneAtATime()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-           + QStringLiteral("/applications/") + ApplicationInfoManager::desktopName() + QLatin1String(ending);
+    static std::mutex mutex;
+    return mutex;
 }
 
-// A desktop entry quotes its command with a backslash before the characters that are special inside quotes.
-QString quoted(QString path)
+bool told(const char *what, bool done)
 {
-    for (const char special : {'\\', '"', '`', '$'})
-        path.replace(QLatin1Char(special), QLatin1Char('\\') + QString(QLatin1Char(special)));
-    path.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-    return QLatin1Char('"') + path + QLatin1Char('"');
-}
-
-bool removeEntry(const char *ending)
-{
-    const QString path = entryPath(ending);
-    const bool gone = !QFile::exists(path) || QFile::remove(path);
-    qInfo().noquote() << "[File association] remove" << path << (gone ? "success" : "fail");
-    return gone;
+    qInfo().noquote() << "[FileAss]" << what << (done ? "success" : "fail");
+    return done;
 }
 
 } // namespace
 
-bool FileAssociation::RegisterAutoplay(bool enable)
+bool FileAssociation::RegisterApplication()
 {
-    if (!enable)
-        return removeEntry(kAutoplayEnding);
-    const QString path = entryPath(kAutoplayEnding);
-    QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    bool written = file.open(QIODevice::WriteOnly | QIODevice::Text);
-    if (written) {
-        const QString text =
-            QStringLiteral("[Desktop Entry]\n"
-                           "Type=Application\n"
-                           "Name=%1\n"
-                           "Exec=%2 %f\n"
-                           "MimeType=%3\n"
-                           "NoDisplay=true\n")
-                .arg(QString(ApplicationInfoManager::instance()->productName()),
-                     quoted(QCoreApplication::applicationFilePath()), QLatin1String(kDiscTypes));
-        file.write(text.toUtf8());
-        written = file.commit();
-    }
-    qInfo().noquote() << "[File association] write" << path << (written ? "success" : "fail");
-    return written;
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    return told("register application", DesktopEntries::writeProgram());
 }
 
 bool FileAssociation::UnregisterApplication()
 {
-    return removeEntry(kApplicationEnding);
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    return told("unregister application", DesktopEntries::removeProgram());
+}
+
+bool FileAssociation::RegisterAutoplay(bool enable)
+{
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    const QString entry = DesktopEntries::autoplayEntry();
+    MimeAppsList list;
+    bool done = list.load() && (!enable || DesktopEntries::writeAutoplay());
+    if (done && enable)
+        list.take(QLatin1String(kDiscs), DesktopEntries::discTypes(), entry);
+    else if (done)
+        list.giveBack(QLatin1String(kDiscs), entry);
+    done = done && list.save();
+    // The list no longer names the entry when it goes.
+    if (!enable)
+        done = done && DesktopEntries::removeAutoplay();
+    return told(enable ? "autoplay on" : "autoplay off", done);
+}
+
+QStringList FileAssociation::associatedExtensions()
+{
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    MimeAppsList list;
+    QStringList found;
+    if (!list.load())
+        return found;
+    const QStringList extensions = CommonInfoManager::playableExtensions();
+    for (const QString &extension : extensions) {
+        if (list.isTaken(extension, DesktopEntries::programEntry()))
+            found << extension;
+    }
+    return found;
+}
+
+bool FileAssociation::changeKnown(const QStringList &associate, const QStringList &restore)
+{
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    const QString entry = DesktopEntries::programEntry();
+    MimeAppsList list;
+    // The list must not name an entry that is not there.
+    if (!list.load() || (!associate.isEmpty() && !DesktopEntries::writeProgram()))
+        return false;
+    for (const QString &extension : restore)
+        list.giveBack(extension, entry);
+    int taken = 0;
+    for (const QString &extension : associate) {
+        const QStringList types = DesktopEntries::typesOf(extension);
+        if (types.isEmpty()) {
+            qInfo().noquote() << "[FileAss] the desktop has no type of media for" << extension;
+            continue;
+        }
+        list.take(extension, types, entry);
+        ++taken;
+    }
+    return list.save() && (associate.isEmpty() || taken > 0);
+}
+
+bool FileAssociation::isMarked(const QString &extension)
+{
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    MimeAppsList list;
+    return list.load() && list.isTaken(extension, DesktopEntries::programEntry());
 }

@@ -1,94 +1,134 @@
 #include "FileAssociation.h"
 
 #include "core/ApplicationInfoManager.h"
+#include "core/CommonInfoManager.h"
+#include "registry/JAutoRegOperator.h"
+#include "registry/JRegReader.h"
+#include "registry/JX64RegOperator.h"
+#include "registry/RegistryAssociation.h"
+#include "registry/RegistryLog.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QSettings>
+
+#include <mutex>
+
+#include <windows.h>
+
+#include <shlobj.h>
 
 namespace {
 
-constexpr char kHandler[] = "QuorinSixMovieOnArrival";
-constexpr char kProgId[] = "QuorinSix.AutoPlay";
-constexpr char kMachineClasses[] = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Classes\\";
-constexpr char kAutoplayRoot[] =
-    "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoplayHandlers\\";
-
-// One value of the registry; an empty name is the key's default value.
-struct Row {
-    QString key;
-    QString name;
-    QString data;
-};
-
-QList<Row> autoplayRows()
+std::mutex &oneAtATime()
 {
-    const QString program = QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
-    const QString handler = QLatin1String(kHandler);
-    const QString root = QLatin1String(kAutoplayRoot);
-    const QString handlerKey = root + QStringLiteral("Handlers\\") + handler;
-    const QString arrival[] = {QStringLiteral("PlayBluRayOnArrival"), QStringLiteral("PlayDVDMovieOnArrival"),
-                               QStringLiteral("PlayVideoFilesOnArrival")};
-    QList<Row> rows{
-        {QLatin1String(kMachineClasses) + QLatin1String(kProgId) + QStringLiteral("\\shell\\open\\command"),
-         {},
-         QStringLiteral("\"%1\" \"%2\"").arg(program, QStringLiteral("%1"))},
-        {handlerKey, QStringLiteral("Action"), QStringLiteral("Play Movie")},
-        {handlerKey, QStringLiteral("DefaultIcon"), QStringLiteral("\"%1\",0").arg(program)},
-        {handlerKey, QStringLiteral("InvokeProgID"), QLatin1String(kProgId)},
-        {handlerKey, QStringLiteral("InvokeVerb"), QStringLiteral("Open")},
-        {handlerKey, QStringLiteral("Provider"), ApplicationInfoManager::instance()->productName()},
-    };
-    for (const QString &event : arrival)
-        rows.append({root + QStringLiteral("EventHandlers\\") + event, handler, QString()});
-    for (const char *group : {"EventHandlersDefaultSelection\\", "UserChosenExecuteHandlers\\"})
-        rows.append({root + QLatin1String(group) + arrival[2], {}, handler});
-    return rows;
+    static std::mutex mutex;
+    return mutex;
 }
 
-QString valueName(const Row &row)
+std::string narrow(const QString &text)
 {
-    return row.name.isEmpty() ? QStringLiteral("Default") : row.name;
+    return text.toLocal8Bit().toStdString();
+}
+
+std::vector<std::string> withPoints(const QStringList &extensions)
+{
+    std::vector<std::string> list;
+    for (const QString &extension : extensions)
+        list.push_back('.' + narrow(extension));
+    return list;
+}
+
+// The program's file in a form that the registry's narrow texts can hold: a folder's name may have letters
+// that the code page lacks, and the system has a short name for it then.
+QString holdable(const QString &file)
+{
+    if (QString::fromLocal8Bit(file.toLocal8Bit()) == file)
+        return file;
+    wchar_t buffer[MAX_PATH] = {};
+    const DWORD length = GetShortPathNameW(reinterpret_cast<const wchar_t *>(file.utf16()), buffer, MAX_PATH);
+    return length > 0 && length < MAX_PATH ? QString::fromWCharArray(buffer, int(length)) : file;
+}
+
+RegistryAssociation::Names names()
+{
+    const auto *info = ApplicationInfoManager::instance();
+    const QString file = info->programFile();
+    const QString narrowFile = holdable(file);
+    RegistryAssociation::Names made;
+    made.application = narrow(ApplicationInfoManager::productName());
+    made.progId = narrow(ApplicationInfoManager::progId());
+    made.executable = narrow(info->programFileName());
+    made.command = narrow(info->openCommand().replace(file, narrowFile));
+    made.icon = narrow(info->iconCommand().replace(file, narrowFile));
+    made.extensions = withPoints(CommonInfoManager::playableExtensions());
+    return made;
+}
+
+// Runs the work, one at a time, and lets the shell look again.
+template<typename Work>
+auto withRegistry(Work work)
+{
+    std::lock_guard<std::mutex> lock(oneAtATime());
+    RegistryLog::setSink([](const std::string &line) { qInfo().noquote() << QString::fromLocal8Bit(line.c_str()); });
+    JX64RegOperator::setHelperName(narrow(ApplicationInfoManager::registryHelperName()));
+    const JRegReader reader;
+    RegistryAssociation association(names(), reader, [] { return std::make_unique<JAutoRegOperator>(false); });
+    return work(association);
+}
+
+template<typename Work>
+bool change(const char *what, Work work)
+{
+    const bool done = withRegistry(work);
+    SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+    qInfo().noquote() << "[FileAss]" << what << (done ? "success" : "fail");
+    return done;
 }
 
 } // namespace
 
-bool FileAssociation::RegisterAutoplay(bool enable)
+bool FileAssociation::RegisterApplication()
 {
-    bool done = true;
-    const QList<Row> rows = autoplayRows();
-    for (const Row &row : rows) {
-        QSettings key(row.key, QSettings::NativeFormat);
-        if (enable)
-            key.setValue(valueName(row), row.data);
-        else
-            key.remove(valueName(row));
-        key.sync();
-        done = done && key.status() == QSettings::NoError;
-    }
-    if (!enable) {
-        QSettings(QLatin1String(kMachineClasses) + QLatin1String(kProgId), QSettings::NativeFormat).clear();
-        QSettings(QLatin1String(kAutoplayRoot) + QStringLiteral("Handlers\\") + QLatin1String(kHandler),
-                  QSettings::NativeFormat)
-            .clear();
-    }
-    qInfo() << "[File association] autoplay" << (enable ? "on" : "off") << (done ? "success" : "fail");
-    return done;
+    return change("register application",
+                  [](RegistryAssociation &association) { return association.RegisterApplication(); });
 }
 
 bool FileAssociation::UnregisterApplication()
 {
-    const QString name = ApplicationInfoManager::instance()->productName();
-    QSettings clients(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Clients\\Media"),
-                      QSettings::NativeFormat);
-    clients.remove(name);
-    QSettings registered(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\RegisteredApplications"),
-                         QSettings::NativeFormat);
-    registered.remove(name);
-    clients.sync();
-    registered.sync();
-    const bool done = clients.status() == QSettings::NoError && registered.status() == QSettings::NoError;
-    qInfo() << "[File association] remove application" << (done ? "success" : "fail");
-    return done;
+    return change("unregister application",
+                  [](RegistryAssociation &association) { return association.UnregisterApplication(); });
+}
+
+bool FileAssociation::RegisterAutoplay(bool enable)
+{
+    return change(enable ? "autoplay on" : "autoplay off", [enable](RegistryAssociation &association) {
+        return association.RegisterAutoplay(enable);
+    });
+}
+
+QStringList FileAssociation::associatedExtensions()
+{
+    return withRegistry([](RegistryAssociation &association) {
+        QStringList found;
+        const QStringList extensions = CommonInfoManager::playableExtensions();
+        for (const QString &extension : extensions) {
+            if (association.IsAssociated('.' + narrow(extension)))
+                found << extension;
+        }
+        return found;
+    });
+}
+
+bool FileAssociation::changeKnown(const QStringList &associate, const QStringList &restore)
+{
+    return change("write extensions", [&](RegistryAssociation &association) {
+        return association.ChangeExtensions(withPoints(associate), withPoints(restore));
+    });
+}
+
+bool FileAssociation::isMarked(const QString &extension)
+{
+    return withRegistry([&](RegistryAssociation &association) {
+        return association.IsAssociated('.' + narrow(extension));
+    });
 }

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 class DesktopEntryTest : public testing::Test {
@@ -23,10 +25,11 @@ protected:
         return m_tree.filePath("share/applications/" + ApplicationInfoManager::desktopName() + ".desktop");
     }
 
-    // The value of a key in a group of the entry; null when it is not there.
-    QString value(const QString &key, const QString &group = QStringLiteral("Desktop Entry")) const
+    // The value of a key in a group of the entry, or of another file like it; null when it is not there.
+    QString value(const QString &key, const QString &group = QStringLiteral("Desktop Entry"),
+                  const QString &path = {}) const
     {
-        QFile file(entryFile());
+        QFile file(path.isEmpty() ? entryFile() : path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << qPrintable(file.fileName());
         QString current;
         while (!file.atEnd()) {
@@ -78,7 +81,8 @@ TEST_F(DesktopEntryTest, EntryIconWindowsAndSessionHaveOneName)
     const QString name = ApplicationInfoManager::desktopName();
     EXPECT_EQ(value("Icon"), name);
     EXPECT_EQ(value("StartupWMClass"), name);
-    const QStringList actions = value("Actions").split(';', Qt::SkipEmptyParts);
+    QStringList actions = value("Actions").split(';', Qt::SkipEmptyParts);
+    EXPECT_EQ(actions.takeFirst(), "PlayWithQuorinSix");
     EXPECT_FALSE(actions.isEmpty());
     const QMetaObject &player = MprisPlayerAdaptor::staticMetaObject;
     for (const QString &action : actions) {
@@ -94,6 +98,26 @@ TEST_F(DesktopEntryTest, ItStartsTheInstalledCommand)
 {
     EXPECT_EQ(value("Exec"), "quorin-player %f");
     EXPECT_EQ(value("TryExec"), QFileInfo(m_tree.command()).fileName());
+}
+
+TEST_F(DesktopEntryTest, TheVerbIsAnActionHereAndInTheMenusOfFilesAndFolders)
+{
+    const QString group = "Desktop Action PlayWithQuorinSix";
+    EXPECT_EQ(value("Name", group), "Play with Quorin Player 6");
+    EXPECT_EQ(value("Exec", group), value("Exec"));
+    const QString menu = m_tree.filePath("share/kio/servicemenus/" + ApplicationInfoManager::desktopName()
+                                         + ".desktop");
+    EXPECT_EQ(value("Name", group, menu), "Play with Quorin Player 6");
+    EXPECT_EQ(value("Exec", group, menu), value("Exec"));
+    EXPECT_EQ(value("Actions", "Desktop Entry", menu), "PlayWithQuorinSix;");
+    QStringList wanted = types();
+    wanted.erase(std::remove_if(wanted.begin(), wanted.end(),
+                                [](const QString &type) { return type.startsWith("x-content/"); }),
+                 wanted.end());
+    wanted.prepend("inode/directory");
+    EXPECT_EQ(value("MimeType", "Desktop Entry", menu).split(';', Qt::SkipEmptyParts), wanted);
+    // Folders have a program of their own to open with.
+    EXPECT_FALSE(types().contains("inode/directory"));
 }
 
 TEST_F(DesktopEntryTest, TheIconIsThereInEverySize)

@@ -137,6 +137,15 @@ void IniText::removeSection(std::string_view section)
     index();
 }
 
+void IniText::removeSectionIfBlank(std::string_view section)
+{
+    const Section *place = find(section);
+    if (place
+        && std::all_of(place->lines.begin(), place->lines.end(),
+                       [](const std::string &current) { return trimmed(current).empty(); }))
+        removeSection(section);
+}
+
 std::string IniText::text() const
 {
     std::string whole;

@@ -30,6 +30,8 @@ public:
     // What the section held goes.
     void replaceSection(const std::string &section, const Keys &keys);
     void removeSection(std::string_view section);
+    // The same, where nothing but blank lines is left in it.
+    void removeSectionIfBlank(std::string_view section);
 
     [[nodiscard]] std::string text() const;
 

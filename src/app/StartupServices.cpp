@@ -157,8 +157,16 @@ MaintenanceRuns StartupServices::maintenance()
     return {*SettingsManager::instance(),
             {info->dataFolder(), info->configurationFile(), info->updateTempFolder(),
              ApplicationInfoManager::productName()},
-            {[](bool enable) { FileAssociation::RegisterAutoplay(enable); },
-             [] { FileAssociation::UnregisterApplication(); },
+            {[](bool enable) {
+                 // An install registers the program with its handler.
+                 if (enable)
+                     FileAssociation::RegisterApplication();
+                 FileAssociation::RegisterAutoplay(enable);
+             },
+             [] {
+                 FileAssociation::RestoreExtensions(FileAssociation::associatedExtensions());
+                 FileAssociation::UnregisterApplication();
+             },
              [] { MediaServerManager::killServerProcess(); }}};
 }
 

@@ -1,17 +1,17 @@
 #include "DesktopEntries_linux.h"
 
 #include "DesktopEntryTexts.h"
+#include "WholeFile_linux.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "registry/IniText.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace {
@@ -81,22 +81,17 @@ std::string contentOf(const QString &path)
 {
     QFile file(path);
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll().toStdString()
-                                                                       : std::string();
+                                                                      : std::string();
 }
 
 bool write(const QString &path, const std::string &text, QFile::Permissions rights = {})
 {
     if (contentOf(path) == text && (!rights || (QFile::permissions(path) & rights) == rights))
         return true;
-    QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    bool written = file.open(QIODevice::WriteOnly)
-                   && file.write(text.data(), qint64(text.size())) == qint64(text.size());
-    if (written && rights)
-        written = file.setPermissions(rights);
-    written = written && file.commit();
-    qInfo().noquote() << "[FileAss] write" << path << (written ? "success" : "fail: " + file.errorString());
-    return written;
+    const QString reason = WholeFile::write(path, text, rights);
+    qInfo().noquote() << "[FileAss] write" << path
+                      << (reason.isEmpty() ? QStringLiteral("success") : "fail: " + reason);
+    return reason.isEmpty();
 }
 
 bool remove(const QString &path)
@@ -111,8 +106,8 @@ bool remove(const QString &path)
 // Whether an entry outside the user's own folder starts a program that is there.
 bool isInstalledForTheMachine()
 {
-    const QStringList found = QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation,
-                                                        DesktopEntries::programEntry());
+    const QStringList found =
+        QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, DesktopEntries::programEntry());
     for (const QString &path : found) {
         if (path.startsWith(applicationsFolder()))
             continue;
@@ -163,10 +158,10 @@ QStringList DesktopEntries::typesOf(const QString &extension)
 {
     const QStringList offered = types();
     QStringList found;
-    const QList<QMimeType> all =
-        QMimeDatabase().mimeTypesForFileName(QStringLiteral("file.") + extension);
+    const QList<QMimeType> all = QMimeDatabase().mimeTypesForFileName(QStringLiteral("file.") + extension);
     for (const QMimeType &type : all) {
-        // What the program does not offer to open stays as it is: a suffix may stand for other things as well.
+        // What the program does not offer to open stays as it is: a suffix may stand for other things as
+        // well.
         if (offered.contains(type.name()))
             found << type.name();
     }

@@ -1,8 +1,8 @@
 // Ties the player into the desktop: its entry among the programs, the verb in the menus of files and folders,
 // the files that open with it, and what offers to play an inserted disc.
 //
-// On Windows by the registry, through one helper with raised rights a call, so that the user is asked once; on
-// Linux by a desktop entry and the user's mimeapps.list. What a file opened with before is kept there and
+// On Windows by the registry, through one helper with raised rights a call, so that the user is asked once;
+// on Linux by a desktop entry and the user's mimeapps.list. What a file opened with before is kept there and
 // given back.
 //
 // Safe on every thread; two calls at once go one after the other. All of them read or write files, and those
@@ -18,8 +18,8 @@ public:
     static bool RegisterApplication();
     static bool UnregisterApplication();
 
-    // Extensions come in any case, with or without "." or "*.". Those that the player does not know are logged
-    // and left out; a list of such alone is a failure.
+    // Extensions come in any case, with or without "." or "*.". Those that the player does not know are
+    // logged and left out; a list of such alone is a failure.
     static bool AssociateExtensions(const QStringList &extensions);
     // Gives back what each opened with before. What was never associated is left alone.
     static bool RestoreExtensions(const QStringList &extensions);

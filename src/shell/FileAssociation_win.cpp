@@ -69,10 +69,12 @@ template<typename Work>
 auto withRegistry(Work work)
 {
     std::lock_guard<std::mutex> lock(oneAtATime());
-    RegistryLog::setSink([](const std::string &line) { qInfo().noquote() << QString::fromLocal8Bit(line.c_str()); });
+    RegistryLog::setSink(
+        [](const std::string &line) { qInfo().noquote() << QString::fromLocal8Bit(line.c_str()); });
     JX64RegOperator::setHelperName(narrow(ApplicationInfoManager::registryHelperName()));
     const JRegReader reader;
-    RegistryAssociation association(names(), reader, [] { return std::make_unique<JAutoRegOperator>(false); });
+    RegistryAssociation association(names(), reader,
+                                    [] { return std::make_unique<JAutoRegOperator>(false); });
     return work(association);
 }
 
@@ -128,7 +130,6 @@ bool FileAssociation::changeKnown(const QStringList &associate, const QStringLis
 
 bool FileAssociation::isMarked(const QString &extension)
 {
-    return withRegistry([&](RegistryAssociation &association) {
-        return association.IsAssociated('.' + narrow(extension));
-    });
+    return withRegistry(
+        [&](RegistryAssociation &association) { return association.IsAssociated('.' + narrow(extension)); });
 }

@@ -1,11 +1,13 @@
 #include "MimeAppsList_linux.h"
 
+#include "WholeFile_linux.h"
+
 #include <QDebug>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -26,7 +28,8 @@ QStringList entriesOf(const std::string &value)
 
 std::string valueOf(const QStringList &entries)
 {
-    return entries.isEmpty() ? std::string() : (entries.join(QLatin1Char(';')) + QLatin1Char(';')).toStdString();
+    return entries.isEmpty() ? std::string()
+                             : (entries.join(QLatin1Char(';')) + QLatin1Char(';')).toStdString();
 }
 
 } // namespace
@@ -65,27 +68,18 @@ bool MimeAppsList::save()
     const std::string text = m_text.text();
     if (text == m_textBefore)
         return true;
+    // A list that we have made goes when nothing is left in it.
     const QFileInfo facts(m_path);
-    // Root may write everything; a file that nobody may write was meant to stay.
-    constexpr auto anyWriter = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    if (facts.exists() && !(facts.permissions() & anyWriter)) {
-        qInfo().noquote() << "[FileAss] is read-only:" << m_path;
-        return false;
-    }
-    if (text.empty() && QFile::remove(m_path)) {
+    if (text.empty() && !facts.isSymLink() && facts.permission(QFile::WriteOwner) && QFile::remove(m_path)) {
         m_textBefore.clear();
         return true;
     }
-    QDir().mkpath(facts.path());
-    QSaveFile file(m_path);
-    const bool written = file.open(QIODevice::WriteOnly)
-                         && file.write(text.data(), qint64(text.size())) == qint64(text.size())
-                         && file.commit();
-    if (written)
+    const QString reason = WholeFile::write(m_path, text);
+    if (reason.isEmpty())
         m_textBefore = text;
     else
-        qInfo().noquote() << "[FileAss] cannot write" << m_path << file.errorString();
-    return written;
+        qInfo().noquote() << "[FileAss] cannot write" << m_path << reason;
+    return reason.isEmpty();
 }
 
 void MimeAppsList::take(const QString &name, const QStringList &types, const QString &entry)

@@ -1,4 +1,5 @@
-// The user's mimeapps.list: which program opens a type of files. Takes types for an entry and gives them back.
+// The user's mimeapps.list: which program opens a type of files. Takes types for an entry and gives them
+// back.
 //
 // What stood there before is kept in groups of our own in the same file, so that one write changes both: by
 // name, for instance an extension, the types that were taken for it, and by type what its line said before.

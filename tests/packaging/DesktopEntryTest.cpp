@@ -105,8 +105,8 @@ TEST_F(DesktopEntryTest, TheVerbIsAnActionHereAndInTheMenusOfFilesAndFolders)
     const QString group = "Desktop Action PlayWithQuorinSix";
     EXPECT_EQ(value("Name", group), "Play with Quorin Player 6");
     EXPECT_EQ(value("Exec", group), value("Exec"));
-    const QString menu = m_tree.filePath("share/kio/servicemenus/" + ApplicationInfoManager::desktopName()
-                                         + ".desktop");
+    const QString menu =
+        m_tree.filePath("share/kio/servicemenus/" + ApplicationInfoManager::desktopName() + ".desktop");
     EXPECT_EQ(value("Name", group, menu), "Play with Quorin Player 6");
     EXPECT_EQ(value("Exec", group, menu), value("Exec"));
     EXPECT_EQ(value("Actions", "Desktop Entry", menu), "PlayWithQuorinSix;");

@@ -1,7 +1,7 @@
 // Starts a program with raised rights, which the system asks the user for, and waits for its end.
 //
-// Blocks for as long as the user takes to answer and the program to run: never call it on the GUI thread. Safe
-// on every thread.
+// Blocks for as long as the user takes to answer and the program to run: never call it on the GUI thread.
+// Safe on every thread.
 #pragma once
 
 #include <optional>

@@ -155,8 +155,8 @@ bool HiveFile::load()
     }
     parse(*content);
     if (m_damaged) {
-        RegistryLog::write("[Registry] " + m_path + " is damaged; keys that could be read: "
-                           + std::to_string(m_keys.size()));
+        RegistryLog::write("[Registry] " + m_path
+                           + " is damaged; keys that could be read: " + std::to_string(m_keys.size()));
         m_damagedText = std::move(*content);
     }
     return true;

@@ -14,7 +14,7 @@ public:
     // value.
     [[nodiscard]] virtual std::optional<std::string> stringValue(RegRoot root, const std::string &keyPath,
                                                                  const std::string &name) const = 0;
-    [[nodiscard]] virtual std::optional<std::uint32_t>
-    dwordValue(RegRoot root, const std::string &keyPath, const std::string &name) const = 0;
+    [[nodiscard]] virtual std::optional<std::uint32_t> dwordValue(RegRoot root, const std::string &keyPath,
+                                                                  const std::string &name) const = 0;
     [[nodiscard]] virtual bool hasKey(RegRoot root, const std::string &keyPath) const = 0;
 };

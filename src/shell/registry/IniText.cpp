@@ -131,18 +131,18 @@ void IniText::replaceSection(const std::string &section, const Keys &keys)
 void IniText::removeSection(std::string_view section)
 {
     const auto first = m_sections.begin() + 1;
-    m_sections.erase(
-        std::remove_if(first, m_sections.end(), [&](const Section &each) { return same(each.name, section); }),
-        m_sections.end());
+    m_sections.erase(std::remove_if(first, m_sections.end(),
+                                    [&](const Section &each) { return same(each.name, section); }),
+                     m_sections.end());
     index();
 }
 
 void IniText::removeSectionIfBlank(std::string_view section)
 {
     const Section *place = find(section);
-    if (place
-        && std::all_of(place->lines.begin(), place->lines.end(),
-                       [](const std::string &current) { return trimmed(current).empty(); }))
+    if (place && std::all_of(place->lines.begin(), place->lines.end(), [](const std::string &current) {
+            return trimmed(current).empty();
+        }))
         removeSection(section);
 }
 

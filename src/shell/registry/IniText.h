@@ -1,6 +1,6 @@
-// The text of an INI file or desktop entry, changed without touching what is not meant: comments, blank lines,
-// unknown lines and the order of all stay. Pure text, no file; a value is what stands behind the first '=',
-// without the blanks around it.
+// The text of an INI file or desktop entry, changed without touching what is not meant: comments, blank
+// lines, unknown lines and the order of all stay. Pure text, no file; a value is what stands behind the first
+// '=', without the blanks around it.
 //
 // A section that is there twice counts once, the first time; so does a key.
 #pragma once

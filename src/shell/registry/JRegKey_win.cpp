@@ -6,8 +6,8 @@ constexpr REGSAM kViewMask = 0x300;
 constexpr LONG kNoSuchCall = 1;
 
 using OpenTransacted = LONG(WINAPI *)(HKEY, LPCSTR, DWORD, REGSAM, PHKEY, HANDLE, PVOID);
-using CreateTransacted = LONG(WINAPI *)(HKEY, LPCSTR, DWORD, LPSTR, DWORD, REGSAM, const LPSECURITY_ATTRIBUTES,
-                                        PHKEY, LPDWORD, HANDLE, PVOID);
+using CreateTransacted = LONG(WINAPI *)(HKEY, LPCSTR, DWORD, LPSTR, DWORD, REGSAM,
+                                        const LPSECURITY_ATTRIBUTES, PHKEY, LPDWORD, HANDLE, PVOID);
 using DeleteTransacted = LONG(WINAPI *)(HKEY, LPCSTR, REGSAM, DWORD, HANDLE, PVOID);
 using DeleteInView = LONG(WINAPI *)(HKEY, LPCSTR, REGSAM, DWORD);
 

@@ -25,8 +25,8 @@ RegResult resultOfDeletion(LONG error)
     return resultOf(error == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : error);
 }
 
-RegResult setValue(RegRoot root, const std::string &keyPath, REGSAM access, const std::string &name, DWORD type,
-                   const void *data, std::size_t size)
+RegResult setValue(RegRoot root, const std::string &keyPath, REGSAM access, const std::string &name,
+                   DWORD type, const void *data, std::size_t size)
 {
     JRegKey key;
     LONG error = key.create(static_cast<HKEY>(root), keyPath.c_str(), access);
@@ -42,7 +42,8 @@ RegResult setString(RegRoot root, const std::string &keyPath, REGSAM access, con
     return setValue(root, keyPath, access, name, REG_SZ, value.c_str(), value.size() + 1);
 }
 
-RegResult setDword(RegRoot root, const std::string &keyPath, REGSAM access, const std::string &name, DWORD value)
+RegResult setDword(RegRoot root, const std::string &keyPath, REGSAM access, const std::string &name,
+                   DWORD value)
 {
     return setValue(root, keyPath, access, name, REG_DWORD, &value, sizeof value);
 }

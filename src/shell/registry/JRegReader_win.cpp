@@ -22,7 +22,8 @@ std::optional<std::vector<BYTE>> read(RegRoot root, const std::string &keyPath, 
         DWORD size = static_cast<DWORD>(data.size());
         const LONG error = RegQueryValueExA(key.handle(), name.c_str(), nullptr, &type,
                                             data.empty() ? nullptr : data.data(), &size);
-        if ((error != ERROR_SUCCESS && error != ERROR_MORE_DATA) || std::find(wantedTypes.begin(), wantedTypes.end(), type) == wantedTypes.end())
+        if ((error != ERROR_SUCCESS && error != ERROR_MORE_DATA)
+            || std::find(wantedTypes.begin(), wantedTypes.end(), type) == wantedTypes.end())
             return std::nullopt;
         if (error == ERROR_SUCCESS && size <= data.size()) {
             data.resize(size);

@@ -1,5 +1,5 @@
-// Changes the registry through a helper with raised rights: records what is asked, and at Commit() saves it as
-// a task file and lets the helper run it.
+// Changes the registry through a helper with raised rights: records what is asked, and at Commit() saves it
+// as a task file and lets the helper run it.
 //
 // A commit that the user refuses leaves the tasks in the list and in the file; the next one brings them with
 // those added since. Owns the list.

@@ -1,9 +1,10 @@
 // A private profile: sections of keys with texts and numbers, as Windows keeps them in INI files.
 //
 // On Windows the system's own calls read and write it, with their code page and limits; elsewhere a reader
-// that follows them in what counts: names in any case, blanks and one pair of quotes around a value taken off,
-// the first section and key of a name hold. Changes reach the file as a whole or not at all: they are made in
-// a copy beside it that then takes its place. What others write while the object lives need not be seen.
+// that follows them in what counts: names in any case, blanks and one pair of quotes around a value taken
+// off, the first section and key of a name hold. Changes reach the file as a whole or not at all: they are
+// made in a copy beside it that then takes its place. What others write while the object lives need not be
+// seen.
 #pragma once
 
 #include <memory>

@@ -97,7 +97,8 @@ bool ProfileFile::writeSections(const std::vector<Section> &sections)
         written = written && WritePrivateProfileSectionA(section.name.c_str(), lines.c_str(), beside.c_str());
     }
     flush(beside);
-    if (!written || !MoveFileExA(beside.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+    if (!written
+        || !MoveFileExA(beside.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
         complain(path);
         DeleteFileA(beside.c_str());
         return false;

@@ -1,5 +1,5 @@
-// Where the program and its temporary files lie, in the narrow code page, and what the system is like. Safe on
-// every thread.
+// Where the program and its temporary files lie, in the narrow code page, and what the system is like. Safe
+// on every thread.
 #pragma once
 
 #include <string>
@@ -20,7 +20,8 @@ namespace ProgramPlace {
 // Makes an empty file; one that is there stays as it is. False when it could not be opened.
 [[nodiscard]] bool touch(const std::string &path);
 
-// Whether a program without raised rights cannot write what belongs to the machine here, and may ask for them.
+// Whether a program without raised rights cannot write what belongs to the machine here, and may ask for
+// them.
 [[nodiscard]] bool needsElevation();
 
 } // namespace ProgramPlace

@@ -33,7 +33,8 @@ constexpr char kVerbText[] = "Play with Quorin Player 6";
 constexpr char kAutoplayProgId[] = "QuorinSix.AutoPlay";
 constexpr char kHandler[] = "QuorinSixMovieOnArrival";
 constexpr char kHandlers[] = "Handlers";
-constexpr const char *kArrivals[] = {"PlayBluRayOnArrival", "PlayDVDMovieOnArrival", "PlayVideoFilesOnArrival"};
+constexpr const char *kArrivals[] = {"PlayBluRayOnArrival", "PlayDVDMovieOnArrival",
+                                     "PlayVideoFilesOnArrival"};
 constexpr const char *kSelections[] = {"EventHandlersDefaultSelection\\PlayVideoFilesOnArrival",
                                        "UserChosenExecuteHandlers\\PlayVideoFilesOnArrival"};
 
@@ -244,8 +245,8 @@ void RegistryAssociation::unregisterAutoplay(Writes &writes) const
         writes.removeValue(root + "EventHandlers\\" + arrival, kHandler);
     for (const char *selection : kSelections) {
         // Another program may have taken the place since.
-        const auto chosen = m_reader.stringValue(RegRoots::handle(RegRoots::LocalMachine), root + selection,
-                                                 kDefault);
+        const auto chosen =
+            m_reader.stringValue(RegRoots::handle(RegRoots::LocalMachine), root + selection, kDefault);
         if (chosen == std::string(kHandler))
             writes.removeValue(root + selection, kDefault);
     }

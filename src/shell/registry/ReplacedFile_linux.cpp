@@ -55,7 +55,7 @@ std::optional<std::string> ReplacedFile::read(const std::string &path, int &erro
 {
     // Without O_NONBLOCK a pipe in the file's place would be waited for.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    struct stat facts{};
+    struct stat facts {};
     error = 0;
     if (file.number() < 0 || ::fstat(file.number(), &facts) != 0) {
         error = errno;
@@ -83,7 +83,7 @@ std::optional<std::string> ReplacedFile::read(const std::string &path, int &erro
 
 int ReplacedFile::write(const std::string &path, const std::string &content)
 {
-    struct stat facts{};
+    struct stat facts {};
     const bool there = ::lstat(path.c_str(), &facts) == 0;
     // Renaming onto a file needs no leave to write into it, but its owner meant it to stay.
     if (there && (facts.st_mode & kAnyWriter) == 0)

@@ -16,7 +16,8 @@ protected:
     using Calls = std::vector<std::string>;
 
     // An operator of two with these results.
-    std::unique_ptr<JAutoRegOperator> made(RecordingOperator::Answers first, RecordingOperator::Answers second)
+    std::unique_ptr<JAutoRegOperator> made(RecordingOperator::Answers first,
+                                           RecordingOperator::Answers second)
     {
         JAutoRegOperator::Operators operators;
         operators.push_back(std::make_unique<RecordingOperator>(m_first, first));
@@ -82,11 +83,11 @@ TEST_F(AutoRegOperatorTest, EveryOperationIsPassedOn)
     registry->DeleteKey64(Roots::Machine, "k", "n");
     registry->RegisterServer("f", "n");
     registry->UnregisterServer("f", "n");
-    const Calls wanted{"set | 2 | k | n | v",           "number | 2 | k | n | 1",
-                       "set64 | 2 | k | n | v",         "number64 | 2 | k | n | 1",
-                       "delete value | 2 | k | n | ",   "delete value64 | 2 | k | n | ",
-                       "delete key | 2 | k | n | ",     "delete key64 | 2 | k | n | ",
-                       "register | -1 | f | n | ",      "unregister | -1 | f | n | "};
+    const Calls wanted{"set | 2 | k | n | v",         "number | 2 | k | n | 1",
+                       "set64 | 2 | k | n | v",       "number64 | 2 | k | n | 1",
+                       "delete value | 2 | k | n | ", "delete value64 | 2 | k | n | ",
+                       "delete key | 2 | k | n | ",   "delete key64 | 2 | k | n | ",
+                       "register | -1 | f | n | ",    "unregister | -1 | f | n | "};
     EXPECT_EQ(m_first, wanted);
 }
 

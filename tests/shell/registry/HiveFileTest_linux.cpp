@@ -100,8 +100,9 @@ TEST_F(HiveFileTest, ADamagedHiveIsKeptBesideEarlierOnes)
 TEST_F(HiveFileTest, LinesOfNoMeaningAreDamageAndTheOthersCount)
 {
     const std::string good = "text v\twords\n";
-    for (const char *bad : {"garbage\n", "text without separator\n", "number v\t12x\n", "number v\t4294967296\n",
-                            "text %4\twords\n", "text %ZZ\twords\n", "end 99\n", "\n"}) {
+    for (const char *bad :
+         {"garbage\n", "text without separator\n", "number v\t12x\n", "number v\t4294967296\n",
+          "text %4\twords\n", "text %ZZ\twords\n", "end 99\n", "\n"}) {
         SCOPED_TRACE(bad);
         m_sandbox.write("registry.hive", "quorin hive 1\nkey 1\\k\n" + good + bad + "end 5\n");
         HiveFile hive(file());
@@ -120,7 +121,8 @@ TEST_F(HiveFileTest, AFullDiskLeavesTheOldHiveAndNothingBesideIt)
     const std::string before = filled();
     {
         const FileSizeLimit limit(before.size() / 2);
-        EXPECT_EQ(HiveOperator(file()).SetStringValue(Roots::User, "SOFTWARE", "v", "x"), RegResults::Failure);
+        EXPECT_EQ(HiveOperator(file()).SetStringValue(Roots::User, "SOFTWARE", "v", "x"),
+                  RegResults::Failure);
     }
     EXPECT_EQ(m_sandbox.content("registry.hive"), before);
     EXPECT_EQ(m_sandbox.names(), std::vector<std::string>{"registry.hive"});
@@ -139,9 +141,11 @@ TEST_F(HiveFileTest, AReadOnlyHiveStaysAsItIs)
 TEST_F(HiveFileTest, AFolderOrAPipeInTheHivesPlaceIsAFailureWithoutAStall)
 {
     std::filesystem::create_directory(m_sandbox.folder() / "folder.hive");
-    EXPECT_EQ(HiveOperator(m_sandbox.path("folder.hive")).DeleteKey(Roots::User, "a", "b"), RegResults::Failure);
+    EXPECT_EQ(HiveOperator(m_sandbox.path("folder.hive")).DeleteKey(Roots::User, "a", "b"),
+              RegResults::Failure);
     ASSERT_EQ(::mkfifo(m_sandbox.path("pipe.hive").c_str(), S_IRUSR | S_IWUSR), 0);
-    EXPECT_EQ(HiveOperator(m_sandbox.path("pipe.hive")).DeleteKey(Roots::User, "a", "b"), RegResults::Failure);
+    EXPECT_EQ(HiveOperator(m_sandbox.path("pipe.hive")).DeleteKey(Roots::User, "a", "b"),
+              RegResults::Failure);
     EXPECT_TRUE(m_sandbox.logged("cannot read"));
 }
 
@@ -160,7 +164,7 @@ TEST_F(HiveFileTest, RightsOfTheFileStay)
     filled();
     ASSERT_EQ(::chmod(file().c_str(), S_IRUSR | S_IWUSR | S_IRGRP), 0);
     EXPECT_EQ(HiveOperator(file()).SetDwordValue(Roots::User, "a", "v", 1), 0);
-    struct stat facts{};
+    struct stat facts {};
     ASSERT_EQ(::stat(file().c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 0777u, unsigned(S_IRUSR | S_IWUSR | S_IRGRP));
 }

@@ -52,16 +52,17 @@ TEST_F(ProfileFileTest, TextThatIsNoNumberIsZeroAndANumberEndsAtTheFirstLetter)
 
 TEST_F(ProfileFileTest, ValuesLongerThanTheBufferAreCutAt1040Characters)
 {
-    const ProfileFile profile(file("[0]\nlong=" + std::string(1041, 'a') + "\nfits=" + std::string(1040, 'b') + "\n"));
+    const ProfileFile profile(
+        file("[0]\nlong=" + std::string(1041, 'a') + "\nfits=" + std::string(1040, 'b') + "\n"));
     EXPECT_EQ(profile.readString("0", "long", ""), std::string(1040, 'a'));
     EXPECT_EQ(profile.readString("0", "fits", ""), std::string(1040, 'b'));
 }
 
 TEST_F(ProfileFileTest, ValuesComeBackAsTheyWereWritten)
 {
-    for (const char *value : {"Example", "", "\"C:\\Program Files\\Player.exe\" \"%1\"",
-                              "\"C:\\Player.exe\",0", "'single'", "  blanks  ", "a=b;c", "[0]", "\"", "\"\"",
-                              "; no comment", "#neither"})
+    for (const char *value :
+         {"Example", "", "\"C:\\Program Files\\Player.exe\" \"%1\"", "\"C:\\Player.exe\",0", "'single'",
+          "  blanks  ", "a=b;c", "[0]", "\"", "\"\"", "; no comment", "#neither"})
         EXPECT_EQ(throughFile(value), value);
 }
 

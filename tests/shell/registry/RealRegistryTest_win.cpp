@@ -60,7 +60,8 @@ TEST_F(RealRegistryTest, AnExpandableTextIsATextToo)
 TEST_F(RealRegistryTest, AKeyKnowsTheViewItWasOpenedIn)
 {
     JRegKey key;
-    ASSERT_EQ(key.create(HKEY_CURRENT_USER, RegistrySandbox::key().c_str(), JRegKey::Access64), ERROR_SUCCESS);
+    ASSERT_EQ(key.create(HKEY_CURRENT_USER, RegistrySandbox::key().c_str(), JRegKey::Access64),
+              ERROR_SUCCESS);
     EXPECT_EQ(key.viewFlags(), REGSAM(KEY_WOW64_64KEY));
     ASSERT_EQ(key.open(HKEY_CURRENT_USER, RegistrySandbox::key().c_str(), JRegKey::Access), ERROR_SUCCESS);
     EXPECT_EQ(key.viewFlags(), 0u);

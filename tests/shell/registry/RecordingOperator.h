@@ -77,8 +77,8 @@ private:
     RegResult note(const std::string &call, RegRoot root, const std::string &key, const std::string &name,
                    const std::string &value)
     {
-        m_calls.push_back(call + " | " + std::to_string(RegRoots::index(root)) + " | " + key + " | " + name + " | "
-                          + value);
+        m_calls.push_back(call + " | " + std::to_string(RegRoots::index(root)) + " | " + key + " | " + name
+                          + " | " + value);
         return m_answers.result;
     }
 

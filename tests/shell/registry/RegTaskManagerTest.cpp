@@ -67,7 +67,8 @@ TEST_F(RegTaskManagerTest, InitWithoutATemporaryFolderFailsAndSoDoesSave)
 TEST_F(RegTaskManagerTest, SavedFileHasItsSectionsAndKeysInOrder)
 {
     m_manager.Init();
-    EXPECT_EQ(m_manager.AddSetString(2, "SOFTWARE\\Clients\\Media\\Example", "ApplicationName", "Example"), 0);
+    EXPECT_EQ(m_manager.AddSetString(2, "SOFTWARE\\Clients\\Media\\Example", "ApplicationName", "Example"),
+              0);
     EXPECT_EQ(m_manager.AddSetNumber(2, "SOFTWARE\\Example", "Flag", 1), 0);
     EXPECT_EQ(m_manager.Save(), 0);
     std::string text = m_sandbox.content(kFile);

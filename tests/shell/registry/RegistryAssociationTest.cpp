@@ -118,16 +118,18 @@ TEST_F(RegistryAssociationTest, UnregisteringDeletesTheSameInTheSameOrder)
 
 TEST_F(RegistryAssociationTest, TheRegistryIsAsBeforeAfterRegisteringAndUnregistering)
 {
-    m_registry.SetStringValue(Roots::Machine, std::string(kSystemFiles) + '\\' + kOne + "\\shell\\PlayWithQuorin",
-                              "", "older");
+    m_registry.SetStringValue(
+        Roots::Machine, std::string(kSystemFiles) + '\\' + kOne + "\\shell\\PlayWithQuorin", "", "older");
     EXPECT_TRUE(direct().RegisterApplication());
     const std::string verb = std::string(kSystemFiles) + '\\' + kOne + "\\shell\\PlayWithQuorinSix";
     EXPECT_EQ(machine(verb, ""), "Play with Quorin Player 6");
     EXPECT_EQ(machine(verb, "MultiSelectModel"), "Player");
     EXPECT_EQ(machine(verb + "\\command", ""), kCommand);
     EXPECT_EQ(machine(std::string(kClasses) + "\\QuorinSandbox.Media\\DefaultIcon", ""), kIcon);
-    EXPECT_EQ(machine("SOFTWARE\\Clients\\Media\\Quorin Sandbox\\Capabilities\\FileAssociations", kTwo), kProgId);
-    EXPECT_FALSE(m_reader.hasKey(Roots::Machine, std::string(kSystemFiles) + '\\' + kOne + "\\shell\\PlayWithQuorin"));
+    EXPECT_EQ(machine("SOFTWARE\\Clients\\Media\\Quorin Sandbox\\Capabilities\\FileAssociations", kTwo),
+              kProgId);
+    EXPECT_FALSE(
+        m_reader.hasKey(Roots::Machine, std::string(kSystemFiles) + '\\' + kOne + "\\shell\\PlayWithQuorin"));
 
     EXPECT_TRUE(direct().UnregisterApplication());
     EXPECT_FALSE(m_reader.hasKey(Roots::Machine, verb));
@@ -255,9 +257,11 @@ TEST_F(RegistryAssociationTest, AutoplayWritesItsHandlerAndTakesItOutAgain)
                                                             {"Provider", "Quorin Sandbox"}};
     for (const auto &[name, value] : values)
         EXPECT_EQ(machine(handlers, name), value) << name;
-    const char *const arrivals[] = {"PlayBluRayOnArrival", "PlayDVDMovieOnArrival", "PlayVideoFilesOnArrival"};
+    const char *const arrivals[] = {"PlayBluRayOnArrival", "PlayDVDMovieOnArrival",
+                                    "PlayVideoFilesOnArrival"};
     for (const char *arrival : arrivals)
-        EXPECT_EQ(machine(std::string(kAutoplay) + "EventHandlers\\" + arrival, "QuorinSixMovieOnArrival"), "");
+        EXPECT_EQ(machine(std::string(kAutoplay) + "EventHandlers\\" + arrival, "QuorinSixMovieOnArrival"),
+                  "");
     const char *const selections[] = {"EventHandlersDefaultSelection\\PlayVideoFilesOnArrival",
                                       "UserChosenExecuteHandlers\\PlayVideoFilesOnArrival"};
     for (const char *selection : selections)
@@ -275,7 +279,8 @@ TEST_F(RegistryAssociationTest, AutoplayWritesItsHandlerAndTakesItOutAgain)
 
 TEST_F(RegistryAssociationTest, TakingAutoplayOutLeavesAnotherProgramsSelection)
 {
-    const std::string selection = std::string(kAutoplay) + "EventHandlersDefaultSelection\\PlayVideoFilesOnArrival";
+    const std::string selection =
+        std::string(kAutoplay) + "EventHandlersDefaultSelection\\PlayVideoFilesOnArrival";
     EXPECT_TRUE(direct().RegisterAutoplay(true));
     m_registry.SetStringValue(Roots::Machine, selection, "", "OtherHandler");
     EXPECT_TRUE(direct().RegisterAutoplay(false));

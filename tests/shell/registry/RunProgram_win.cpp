@@ -10,7 +10,8 @@ std::optional<int> runProgram(const std::string &program, const std::vector<std:
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+    if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &process))
         return std::nullopt;
     WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;

@@ -39,7 +39,7 @@ TEST(TaskFileTest, NobodyElseMayWriteIntoAFileThatIsMadeHere)
     const RegistrySandbox sandbox;
     DRegTaskManager manager;
     ASSERT_EQ(manager.Init(), 1);
-    struct stat facts{};
+    struct stat facts {};
     ASSERT_EQ(::stat(manager.FilePath().c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 0077u, 0u);
     manager.AddSetString(1, "k", "n", "v");

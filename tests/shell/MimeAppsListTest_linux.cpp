@@ -60,10 +60,8 @@ TEST_F(MimeAppsListTest, TakenAndGivenBackTheFileIsTheSameByteByByte)
 {
     const QByteArray texts[] = {
         "[Default Applications]\nvideo/x-matroska=other.desktop;third.desktop;\ntext/plain=edit.desktop\n",
-        "# mine\n\n[Added Associations]\nvideo/x-matroska=other.desktop;\n\n[Default Applications]\n\n# "
-        "films\n"
-        "video/x-matroska = other.desktop\naudio/mpeg=music.desktop;\n\n[Removed "
-        "Associations]\nx/y=z.desktop;\n",
+        "# mine\n\n[Default Applications]\n\n# a film\nvideo/x-matroska = other.desktop\n",
+        "[Default Applications]\nvideo/x-matroska=other.desktop\n\n[Removed Associations]\nx/y=z.desktop;\n",
         "[Added Associations]\nvideo/x-matroska=other.desktop;\n",
         "[Default Applications]\r\ntext/plain=edit.desktop\r\n",
         "[Default Applications]\ntext/plain=edit.desktop",

@@ -26,7 +26,17 @@ private:
     bool m_started;
 };
 
-// Below this the instance value names an error.
+// With the window that the user works in the question comes before it; without one it may wait in the task
+// bar.
+HWND ownForegroundWindow()
+{
+    const HWND window = GetForegroundWindow();
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    return owner == GetCurrentProcessId() ? window : nullptr;
+}
+
+// Up to this the instance value names an error.
 constexpr INT_PTR kLastError = 32;
 
 } // namespace
@@ -39,6 +49,7 @@ std::optional<int> ElevatedHelper::run(const std::string &program, const std::st
     SHELLEXECUTEINFOA info{};
     info.cbSize = sizeof info;
     info.fMask = SEE_MASK_NOCLOSEPROCESS;
+    info.hwnd = ownForegroundWindow();
     info.lpVerb = "runas";
     info.lpFile = program.c_str();
     info.lpParameters = parameters.c_str();

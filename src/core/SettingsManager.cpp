@@ -156,8 +156,11 @@ void SettingsManager::setLaunchMode(int mode)
 QString SettingsManager::language() const
 {
     const QString stored = value(SettingsKeys::PC_Language).toString();
-    if (!stored.isEmpty())
-        return stored;
+    return stored.isEmpty() ? systemLanguage() : stored;
+}
+
+QString SettingsManager::systemLanguage() const
+{
     SystemLanguageReader reader;
     {
         std::lock_guard<std::mutex> lock(m_mutex);

@@ -66,6 +66,8 @@ public:
     void setLaunchMode(int mode);
     [[nodiscard]] QString language() const;
     void setLanguage(const QString &code);
+    // What the system speaks, by its code; English for a language that the program has no texts for.
+    [[nodiscard]] QString systemLanguage() const;
     [[nodiscard]] int audioSpeaker() const;
     void setAudioSpeaker(int speaker);
     [[nodiscard]] int audioPassthrough() const;

@@ -17,7 +17,6 @@ FolderEdit::FolderEdit(QWidget *parent)
 {
     m_line->setObjectName(QLatin1String(SettingsLook::Field));
     m_button->setObjectName(QLatin1String(SettingsLook::SmallButton));
-    m_button->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Look::px(8));

@@ -1,0 +1,6 @@
+#include "PlaybackPage.h"
+
+PlaybackPage::PlaybackPage(SettingsModel &model, QWidget *parent)
+    : SettingsPageWidget(model, SettingsPageId::Playback, parent)
+{
+}

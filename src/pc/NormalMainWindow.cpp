@@ -6,6 +6,7 @@
 #include "NormalPlayView.h"
 #include "PcKeyActions.h"
 #include "PcMediaSession.h"
+#include "PcSettingsHost.h"
 #include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalMessageBoxFactory.h"
 #include "dialogs/PcDialogs.h"
@@ -40,6 +41,7 @@
 #include "player/DeferredSetup.h"
 #include "player/workObject.h"
 #include "preview/SmartPreview.h"
+#include "settings/NormalSettingPage.h"
 #include "ui/AnimateMenu.h"
 #include "ui/QDraggableNoBordersWnd.h"
 #include "ui/StyleLoader.h"
@@ -178,6 +180,7 @@ void NormalMainWindow::makePlayMenu()
         this);
     m_discs = new OpticalDiscs(this);
     m_discs->refresh();
+    m_settingsHost = std::make_unique<PcSettingsHost>(m_settings, [this] { return m_player; });
 }
 
 void NormalMainWindow::connectParts()
@@ -321,6 +324,7 @@ QVector<AnimateMenu::Row> NormalMainWindow::menuRows(bool playing)
             {Kind::Dialog, PopDlgTyle::ColorAdjust, tr("Color Adjust..."), playing},
             {Kind::Dialog, PopDlgTyle::LoadSubtitle, tr("Load Subtitle..."), playing},
             line,
+            {Kind::Dialog, PopDlgTyle::Setting, tr("Settings..."), true},
             {Kind::Dialog, PopDlgTyle::About, tr("About"), true}};
 }
 
@@ -339,6 +343,7 @@ void NormalMainWindow::retranslate()
 void NormalMainWindow::slot_configLater()
 {
     m_setUp->start();
+    m_settingsHost->refreshAssociations();
     m_session->open();
     auto *statistics = PlayInfoStatisticsHelper::instance();
     for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})
@@ -545,10 +550,36 @@ void NormalMainWindow::openDialog(PopDlgTyle type)
     case PopDlgTyle::LoadSubtitle:
         slot_loadSubtitle();
         break;
+    case PopDlgTyle::Setting:
+        openSettings(SettingsPageId::General);
+        break;
+    case PopDlgTyle::SubtitleSetting:
+        openSettings(SettingsPageId::Subtitle);
+        break;
     default:
         m_dialogs->show(type);
         break;
     }
+}
+
+void NormalMainWindow::openSettings(SettingsPageId page)
+{
+    if (m_settingPage == nullptr) {
+        m_settingPage = new NormalSettingPage(m_settings, *m_settingsHost, this);
+        connect(m_settingPage, &NormalSettingPage::sig_settingsSaved, this, &NormalMainWindow::takeSettings);
+    }
+    if (m_settingPage->isVisible())
+        return;
+    m_settingPage->setStartPage(page);
+    m_settingPage->exec();
+}
+
+void NormalMainWindow::takeSettings(const QStringList &keys)
+{
+    const QString screenSaver = QLatin1String(SettingsKeys::PC_DisableScreenSaver);
+    if (keys.contains(screenSaver))
+        m_settings.value(screenSaver).toBool() ? ScreenSaver::disable() : ScreenSaver::enable();
+    m_overlays->metaView()->updateShown();
 }
 
 void NormalMainWindow::slot_saveScreenShot(unsigned char *RGBA, int Width, int Height)

@@ -10,6 +10,7 @@
 #include "keys/KeyOperateType.h"
 #include "playcontrol/DropRule.h"
 #include "playcontrol/RecentFiles.h"
+#include "settings/SettingRow.h"
 #include "ui/AnimateMenu.h"
 
 #include <QPoint>
@@ -28,8 +29,10 @@ class NormalStartView;
 class NormalTitleBar;
 class OpticalDiscs;
 class PcDialogs;
+class NormalSettingPage;
 class PcKeyActions;
 class PcMediaSession;
+class PcSettingsHost;
 class PlayMenu;
 class PlayOverlays;
 class QDraggableNoBordersWnd;
@@ -141,12 +144,15 @@ private:
     void tellNote(int type);
     void tellBdavNote();
     void openDialog(PopDlgTyle type);
+    void openSettings(SettingsPageId page);
+    void takeSettings(const QStringList &keys);
     void applyAlwaysOnTop(bool playing);
     void toggleAlwaysOnTop();
     void toggleInformation();
     void updateTitleBar();
     void placeMenu();
     void noteNormalGeometry();
+    void pauseWhileMinimized();
     void passMouseToDisc(const QMouseEvent &event);
 
     SettingsManager &m_settings;
@@ -173,6 +179,8 @@ private:
     std::unique_ptr<QDraggableNoBordersWnd> m_borders;
     std::unique_ptr<workObject> m_worker;
     std::unique_ptr<PcKeyActions> m_keyActions;
+    std::unique_ptr<PcSettingsHost> m_settingsHost;
+    NormalSettingPage *m_settingPage{nullptr}; // made at its first use
     QPlayer *m_player{nullptr};
     QRect m_normalGeometry;
     QSize m_sizeBeforeFit; // empty while no video has changed the size
@@ -180,5 +188,6 @@ private:
     bool m_isPressedOnPicture{false};
     bool m_maximizedBeforeFullScreen{false};
     bool m_isEngineReady{false};
+    bool m_isPausedByMinimize{false};
     bool m_isClosed{false};
 };

@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <utility>
+
 namespace {
 
 // Design pixels.
@@ -131,6 +133,23 @@ void NormalMainWindow::SLOT_haveMouseMove()
         return;
     unsetCursor();
     m_overlays->wake();
+    pauseWhileMinimized();
+}
+
+// What the user has paused stays so.
+void NormalMainWindow::pauseWhileMinimized()
+{
+    if (m_player == nullptr || !m_control->hasSource())
+        return;
+    if (isMinimized()) {
+        m_isPausedByMinimize = m_settings.valueOr(QLatin1String(SettingsKeys::PC_PausePlay), false)
+                               && QPlayer::isMoving(m_player->status());
+        if (m_isPausedByMinimize)
+            m_player->togglePause();
+    } else if (std::exchange(m_isPausedByMinimize, false)
+               && m_player->status() == QPlayer::QPlayerStatus_Paused) {
+        m_player->resume();
+    }
 }
 
 void NormalMainWindow::SLOT_mouseMoveStop()

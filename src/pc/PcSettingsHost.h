@@ -1,0 +1,42 @@
+// What the settings dialog asks of the program: the engine, the desktop's file types, other programs.
+//
+// GUI thread. File types are read and changed on a worker; until it has answered, none counts as this player's.
+// Refers to the store, which outlives it.
+#pragma once
+
+#include "settings/ISettingsHost.h"
+
+#include <memory>
+
+class QPlayer;
+class SettingsManager;
+class ThreadWorker;
+
+class PcSettingsHost final : public ISettingsHost {
+public:
+    // player: null until there is one.
+    PcSettingsHost(SettingsManager &settings, std::function<QPlayer *()> player);
+    ~PcSettingsHost() override;
+
+    // Reads anew which file types open with this program.
+    void refreshAssociations();
+
+    [[nodiscard]] QList<SettingsAudioDevice> audioDevices() const override;
+    void applyVideo() override;
+    void applyAudio() override;
+    void applySubtitle() override;
+    void applyRegion() override;
+    void applyProxy() override;
+
+    [[nodiscard]] QStringList associatedExtensions() const override;
+    void changeAssociations(const QStringList &add, const QStringList &remove,
+                            std::function<void(bool)> done) override;
+    void openSystemSettings() override;
+    bool startProgram(const QString &commandLine) override;
+
+private:
+    SettingsManager &m_settings;
+    std::function<QPlayer *()> m_player;
+    QStringList m_associated;
+    std::unique_ptr<ThreadWorker> m_worker;
+};

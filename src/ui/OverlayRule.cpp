@@ -36,6 +36,8 @@ QRect OverlayRule::placed(const QRect &area, const QSize &wanted, double ratio) 
         return {QPoint(right, bottom), size};
     case Anchor::Centre:
         return {QPoint(middle, inner.top() + (inner.height() - size.height()) / 2), size};
+    case Anchor::RightCentre:
+        return {QPoint(right, inner.top() + (inner.height() - size.height()) / 2), size};
     case Anchor::Free:
         break;
     }

@@ -15,6 +15,7 @@ struct OverlayRule {
         BottomCentre,
         BottomRight,
         Centre,
+        RightCentre,
         Free // the overlay moves itself; it is only kept above the picture and hidden with it
     };
 

@@ -38,7 +38,8 @@ INSTANTIATE_TEST_SUITE_P(Anchors, OverlayPlaces,
                                          Row{"BottomLeft", Anchor::BottomLeft, {120, 620, 300, 100}},
                                          Row{"BottomCentre", Anchor::BottomCentre, {430, 620, 300, 100}},
                                          Row{"BottomRight", Anchor::BottomRight, {740, 620, 300, 100}},
-                                         Row{"Centre", Anchor::Centre, {430, 430, 300, 100}}),
+                                         Row{"Centre", Anchor::Centre, {430, 430, 300, 100}},
+                                         Row{"RightCentre", Anchor::RightCentre, {740, 430, 300, 100}}),
                          [](const auto &row) { return std::string(row.param.name); });
 
 TEST(OverlayRule, IsCutToAnAreaThatIsTooSmall)

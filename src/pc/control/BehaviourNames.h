@@ -9,6 +9,7 @@ inline constexpr char LastChapterUsed[] = "LastChapterUsed";
 inline constexpr char NextChapterUsed[] = "NextChapterUsed";
 inline constexpr char FrameOperateUsed[] = "FrameOperateUsed";
 inline constexpr char ShaderUsed[] = "ShaderUsed";
+inline constexpr char PlaylistUsed[] = "PlaylistUsed";
 // Pictures of the source were asked for: of a plain file, and of any other source.
 inline constexpr char NormalFileSmartViewUsed[] = "NormalFileSmartViewUsed";
 inline constexpr char OtherFileSmartViewUsed[] = "OtherFileSmartViewUsed";

@@ -1,9 +1,10 @@
 #include "DropRule.h"
 
+#include "NaturalOrder.h"
+
 #include "core/CommonInfoManager.h"
 #include "disc/DiscFolder.h"
 
-#include <QCollator>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -75,10 +76,7 @@ QString inFolder(const QString &folder, const QString &name)
 // "Part 2" before "Part 10".
 QStringList naturallySorted(const QStringList &names)
 {
-    // The locale of programs knows no order of numbers.
-    QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    const QCollator collator = NaturalOrder::collator();
     struct Keyed {
         QCollatorSortKey key;
         QString name;

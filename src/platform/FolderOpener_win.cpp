@@ -1,0 +1,82 @@
+#include "FolderOpener.h"
+
+#include "core/ThreadWorker.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <windows.h>
+
+namespace {
+
+constexpr int kStopMs = 200;
+
+// By its full path: the search for a bare name begins in the folder of the program.
+QString explorer()
+{
+    wchar_t folder[MAX_PATH] = {};
+    const UINT length = GetWindowsDirectoryW(folder, MAX_PATH);
+    const QString name = QStringLiteral("explorer.exe");
+    return length == 0 || length >= MAX_PATH ? name
+                                             : QString::fromWCharArray(folder, int(length)) + QLatin1Char('\\') + name;
+}
+
+bool start(const QString &arguments)
+{
+    QProcess process;
+    process.setProgram(explorer());
+    process.setNativeArguments(arguments);
+    return process.startDetached();
+}
+
+// Explorer reads its command line itself: the quotes belong behind the comma, and no file name holds one.
+QString quoted(const QString &path)
+{
+    QString native = QDir::toNativeSeparators(path);
+    native.remove(QLatin1Char('"'));
+    return QLatin1Char('"') + native + QLatin1Char('"');
+}
+
+bool openByExplorer(const QString &folder)
+{
+    return start(quoted(folder));
+}
+
+void showNow(const QString &path, const FolderOpener::OpenFolder &openFolder)
+{
+    // Explorer shows the folder by itself where the file is gone.
+    if (start(QStringLiteral("/select,") + quoted(path)))
+        return;
+    if (!openFolder(QFileInfo(path).absolutePath()))
+        qInfo().noquote() << "[Folder] could not be opened:" << path;
+}
+
+} // namespace
+
+FolderOpener::FolderOpener()
+    : FolderOpener(QString(), openByExplorer)
+{
+}
+
+FolderOpener::FolderOpener(const QString &busAddress, OpenFolder openFolder)
+    : m_busAddress(busAddress)
+    , m_openFolder(std::move(openFolder))
+{
+}
+
+FolderOpener::~FolderOpener()
+{
+    if (m_worker)
+        m_worker->stop(kStopMs);
+}
+
+void FolderOpener::show(const QString &path)
+{
+    if (path.isEmpty())
+        return;
+    if (!m_worker)
+        m_worker = std::make_unique<ThreadWorker>(1);
+    m_worker->addTask([path, open = m_openFolder] { showNow(path, open); });
+}

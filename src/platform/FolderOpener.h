@@ -1,7 +1,7 @@
 // Shows a file in the desktop's own file manager, selected in its folder.
 //
-// Lives on the GUI thread and does not wait: the desktop is asked on a worker. Where it has no way to select a
-// file its folder is opened.
+// Lives on the GUI thread and does not wait: the desktop is asked on a worker. Where it has no way to select
+// a file its folder is opened.
 #pragma once
 
 #include <QString>
@@ -17,7 +17,8 @@ public:
     using OpenFolder = std::function<bool(const QString &folder)>;
 
     FolderOpener();
-    // busAddress: of the session in which the file manager is asked, where there is such a thing; may be empty.
+    // busAddress: of the session in which the file manager is asked, where there is such a thing; may be
+    // empty.
     FolderOpener(const QString &busAddress, OpenFolder openFolder);
     ~FolderOpener();
     FolderOpener(const FolderOpener &) = delete;

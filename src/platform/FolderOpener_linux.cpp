@@ -30,7 +30,8 @@ bool showByFileManager(const QString &busAddress, const QString &path)
 {
     if (busAddress.isEmpty())
         return false;
-    const QString name = QStringLiteral("folder-opener-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QString name =
+        QStringLiteral("folder-opener-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
     bool isShown = false;
     {
         QDBusConnection bus = QDBusConnection::connectToBus(busAddress, name);

@@ -19,8 +19,9 @@ QString explorer()
     wchar_t folder[MAX_PATH] = {};
     const UINT length = GetWindowsDirectoryW(folder, MAX_PATH);
     const QString name = QStringLiteral("explorer.exe");
-    return length == 0 || length >= MAX_PATH ? name
-                                             : QString::fromWCharArray(folder, int(length)) + QLatin1Char('\\') + name;
+    return length == 0 || length >= MAX_PATH
+               ? name
+               : QString::fromWCharArray(folder, int(length)) + QLatin1Char('\\') + name;
 }
 
 bool start(const QString &arguments)

@@ -49,13 +49,12 @@ INSTANTIATE_TEST_SUITE_P(
                     EndRow{"SequenceEndsAtTheLastRow", 1, 2, 3, -1},
                     EndRow{"ShuffleIsTheNumberModuloTheRows", 2, 0, 3, 2},
                     EndRow{"ShuffleMayPickTheSameRowAgain", 2, 2, 3, 2},
-                    EndRow{"ShuffleWithOneRowPlaysItAgain", 2, 0, 1, 0},
-                    EndRow{"RepeatOneStays", 3, 1, 3, 1}, EndRow{"RepeatAllGoesToTheNext", 4, 0, 3, 1},
+                    EndRow{"ShuffleWithOneRowPlaysItAgain", 2, 0, 1, 0}, EndRow{"RepeatOneStays", 3, 1, 3, 1},
+                    EndRow{"RepeatAllGoesToTheNext", 4, 0, 3, 1},
                     EndRow{"RepeatAllBeginsAnewAtTheLastRow", 4, 2, 3, 0},
                     EndRow{"RepeatAllWithOneRowPlaysItAgain", 4, 0, 1, 0},
                     EndRow{"AnUnknownTypeEnds", 5, 0, 3, -1}, EndRow{"ANegativeTypeEnds", -1, 0, 3, -1},
-                    EndRow{"WithoutACurrentRowItEnds", 4, -1, 3, -1},
-                    EndRow{"AnEmptyQueueEnds", 4, 0, 0, -1},
+                    EndRow{"WithoutACurrentRowItEnds", 4, -1, 3, -1}, EndRow{"AnEmptyQueueEnds", 4, 0, 0, -1},
                     EndRow{"ARowThatIsNotThereAnyMoreEnds", 1, 7, 3, -1}),
     [](const auto &row) { return std::string(row.param.name); });
 

@@ -118,8 +118,9 @@ TEST_F(Stores, ABrokenFileOfSettingsGivesAnEmptyQueue)
 {
     QFile broken(settings->fileName());
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("[General]\nPC_Playlist=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xff)\nPC_PlaylistLoopType=many\n"
-                 "PC_PlaylistSortType=@Invalid()\n");
+    broken.write(
+        "[General]\nPC_Playlist=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xff)\nPC_PlaylistLoopType=many\n"
+        "PC_PlaylistSortType=@Invalid()\n");
     broken.close();
     SettingsManager read(broken.fileName());
     QueueStore store(read);

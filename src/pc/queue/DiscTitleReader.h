@@ -1,7 +1,7 @@
 // Asks what titles a source has, without waiting for its drive.
 //
-// Lives on the GUI thread; the engine is asked on workers, a few at a time so that a disc that does not answer
-// leaves room for others. A source that is being asked about is not asked again.
+// Lives on the GUI thread; the engine is asked on workers, a few at a time so that a disc that does not
+// answer leaves room for others. A source that is being asked about is not asked again.
 #pragma once
 
 #include "player/QPlayerTypes.h"

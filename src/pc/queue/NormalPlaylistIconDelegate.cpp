@@ -77,15 +77,15 @@ void NormalPlaylistIconDelegate::paint(QPainter *painter, const QStyleOptionView
                      picture.bottom() - Look::px(kChipHeight) - Look::px(kChipInset) / 2,
                      picture.width() - 2 * Look::px(kChipInset), Look::px(kChipHeight));
     FixedDigits::draw(*painter, chip, Qt::AlignRight,
-                      isInvalid ? painter->fontMetrics().elidedText(softText(index), Qt::ElideRight,
-                                                                    chip.width())
-                                : sideText(index));
+                      isInvalid
+                          ? painter->fontMetrics().elidedText(softText(index), Qt::ElideRight, chip.width())
+                          : sideText(index));
 
     painter->setFont(Look::font(kNamePixels, isMarked ? QFont::DemiBold : QFont::Normal));
     painter->setPen(Look::color(isMarked ? Look::AccentHover : isInvalid ? Look::Soft : Look::Text));
-    painter->drawText(name.left(), Look::baseline(name, painter->fontMetrics()),
-                      painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight,
-                                                        name.width()));
+    painter->drawText(
+        name.left(), Look::baseline(name, painter->fontMetrics()),
+        painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, name.width()));
     if (hasCursor(option, index))
         paintFrame(painter, tile);
     painter->restore();

@@ -13,7 +13,8 @@ public:
     [[nodiscard]] static QSize tileFor(int wallWidth);
     void setTile(const QSize &tile) { m_tile = tile; }
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:

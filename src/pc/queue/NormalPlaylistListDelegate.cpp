@@ -33,8 +33,8 @@ QSize NormalPlaylistListDelegate::sizeHint(const QStyleOptionViewItem &, const Q
     return {0, Look::px(kRowHeight)};
 }
 
-NormalPlaylistListDelegate::Parts
-NormalPlaylistListDelegate::partsOf(const QRect &row, const QModelIndex &index, int sideWidth)
+NormalPlaylistListDelegate::Parts NormalPlaylistListDelegate::partsOf(const QRect &row,
+                                                                      const QModelIndex &index, int sideWidth)
 {
     Parts parts;
     parts.ground = row.adjusted(Look::px(kSide), 1, -Look::px(kSide), -1);
@@ -119,9 +119,9 @@ void NormalPlaylistListDelegate::paint(QPainter *painter, const QStyleOptionView
 
     painter->setFont(Look::font(kNamePixels, isMarked ? QFont::DemiBold : QFont::Normal));
     painter->setPen(Look::color(isMarked ? Look::AccentHover : isInvalid ? Look::Soft : Look::Text));
-    painter->drawText(parts.name.left(), Look::baseline(parts.name, painter->fontMetrics()),
-                      painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight,
-                                                        parts.name.width()));
+    painter->drawText(
+        parts.name.left(), Look::baseline(parts.name, painter->fontMetrics()),
+        painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, parts.name.width()));
     if (hasCursor(option, index))
         paintFrame(painter, parts.ground);
     painter->restore();

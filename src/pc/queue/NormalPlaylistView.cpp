@@ -95,8 +95,8 @@ void NormalPlaylistView::makeParts()
     m_grid->setTabKeyNavigation(false);
     m_grid->setContextMenuPolicy(Qt::CustomContextMenu);
     m_grid->viewport()->setAutoFillBackground(false);
-    for (QWidget *page : {static_cast<QWidget *>(m_list), static_cast<QWidget *>(m_grid),
-                          static_cast<QWidget *>(m_empty)})
+    for (QWidget *page :
+         {static_cast<QWidget *>(m_list), static_cast<QWidget *>(m_grid), static_cast<QWidget *>(m_empty)})
         m_pages->addWidget(page);
 
     auto *column = new QVBoxLayout(m_card);
@@ -132,8 +132,8 @@ void NormalPlaylistView::makeConnections()
             &NormalPlaylistView::slot_changeExpandState);
     connect(m_list, &QueueListView::rowsDropped, m_queue, &PlayQueue::moveRows);
     connect(m_list, &QueueListView::urlsDropped, this, &NormalPlaylistView::takeUrls);
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_list),
-                                    static_cast<QAbstractItemView *>(m_grid)}) {
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_list), static_cast<QAbstractItemView *>(m_grid)}) {
         connect(view, &QAbstractItemView::doubleClicked, m_queue, &PlayQueue::playRow);
         connect(view, &QWidget::customContextMenuRequested, this, [this, view](const QPoint &point) {
             m_menus.buildContext(menuState())->popup(view->viewport()->mapToGlobal(point));
@@ -155,8 +155,8 @@ void NormalPlaylistView::makeConnections()
 void NormalPlaylistView::retranslate()
 {
     setAccessibleName(tr("Playlist"));
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_list),
-                                    static_cast<QAbstractItemView *>(m_grid)})
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_list), static_cast<QAbstractItemView *>(m_grid)})
         view->setAccessibleName(tr("Playlist"));
     m_head->retranslate();
     m_empty->retranslate();
@@ -364,8 +364,8 @@ void NormalPlaylistView::showPage()
 
 void NormalPlaylistView::showMark()
 {
-    for (QueueDelegate *delegate : {static_cast<QueueDelegate *>(m_listDelegate),
-                                    static_cast<QueueDelegate *>(m_iconDelegate)}) {
+    for (QueueDelegate *delegate :
+         {static_cast<QueueDelegate *>(m_listDelegate), static_cast<QueueDelegate *>(m_iconDelegate)}) {
         delegate->setCurrentIndex(m_queue->playNode());
         delegate->setMark(m_queue->markedNode(), m_queue->mark());
     }

@@ -125,8 +125,8 @@ bool NormalPlaylistView::handleKey(QKeyEvent *event)
         break;
     }
     if (auto *button = qobject_cast<TransportButton *>(current)) {
-        const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-                             || event->key() == Qt::Key_Space;
+        const bool presses =
+            event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
         if (presses)
             button->click();
         return presses;
@@ -252,9 +252,8 @@ QueueMenus::State NormalPlaylistView::menuState() const
     QueueMenus::State state;
     state.hasSources = m_queue->count() > 0;
     state.hasSelection = m_list->selectionModel()->hasSelection();
-    state.hasFolder =
-        m_selectNode.isValid()
-        && !QueuePath::local(m_selectNode.data(PlayQueueModel::PathRole).toString()).isEmpty();
+    state.hasFolder = m_selectNode.isValid()
+                      && !QueuePath::local(m_selectNode.data(PlayQueueModel::PathRole).toString()).isEmpty();
     state.sortType = m_queue->sortType();
     state.loopType = m_queue->loopType();
     return state;
@@ -343,8 +342,9 @@ void NormalPlaylistView::takeUrls(const QList<QUrl> &urls, int before)
     // One each: a later drop does not take the place of an earlier one here.
     ++m_dropReaders;
     auto *reader = new DropReader(m_services.drops, this);
-    const QPersistentModelIndex place =
-        before >= 0 && before < m_queue->model()->sourceCount() ? m_queue->model()->index(before) : QModelIndex();
+    const QPersistentModelIndex place = before >= 0 && before < m_queue->model()->sourceCount()
+                                            ? m_queue->model()->index(before)
+                                            : QModelIndex();
     connect(reader, &DropReader::decided, this, [this, reader, place](const DropRule::Outcome &outcome) {
         --m_dropReaders;
         reader->deleteLater();

@@ -277,7 +277,7 @@ void PlayQueue::playRow(const QModelIndex &index)
     emit playSource(path, m_pendingTitle);
 }
 
-void PlayQueue::setPlayNode(const QModelIndex &index)
+void PlayQueue::setPlayNode(QModelIndex index)
 {
     m_playNode = index;
     m_metaTitle = NoTitle;

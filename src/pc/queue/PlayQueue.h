@@ -113,7 +113,8 @@ private:
     void check(const QStringList &paths);
     void showPresence();
     void showMeta();
-    void setPlayNode(const QModelIndex &index);
+    // By value: the index of the node itself would go with the node.
+    void setPlayNode(QModelIndex index);
     [[nodiscard]] QueueOrder::Queue shape() const;
     [[nodiscard]] QueueOrder::Place placeOf(const QModelIndex &index) const;
     [[nodiscard]] QModelIndex indexOf(QueueOrder::Place place) const;

@@ -389,8 +389,9 @@ QVariant PlayQueueModel::sourceData(int row, int role) const
                    ? QueuePath::displayName(source.path) + QLatin1String(", ") + tr("Not found")
                    : QueuePath::displayName(source.path);
     case Qt::ToolTipRole: {
-        const QString path = source.path.size() == 1 ? QueuePath::displayName(source.path)
-                                                     : QDir::toNativeSeparators(source.path);
+        const QString path = QueuePath::kindOf(source.path) == QueuePath::Disc
+                                 ? QueuePath::displayName(source.path)
+                                 : QDir::toNativeSeparators(source.path);
         // Escaped: the name of a file must not be read as markup.
         return (source.presence == Presence::Gone ? path + QLatin1Char('\n') + tr("Not found") : path)
             .toHtmlEscaped()

@@ -11,7 +11,6 @@
 #include <QMimeData>
 #include <QPainter>
 
-
 namespace {
 
 // Design pixels.
@@ -77,9 +76,9 @@ void QueueListView::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Look::color(Look::Accent));
-    painter.drawRoundedRect(
-        QRectF(inset, qBound(0, y - line / 2, viewport()->height() - line), viewport()->width() - 2 * inset, line),
-        line / 2.0, line / 2.0);
+    painter.drawRoundedRect(QRectF(inset, qBound(0, y - line / 2, viewport()->height() - line),
+                                   viewport()->width() - 2 * inset, line),
+                            line / 2.0, line / 2.0);
 }
 
 void QueueListView::setHovered(const QModelIndex &index)
@@ -202,11 +201,12 @@ void QueueListView::dropEvent(QDropEvent *event)
 
 void QueueListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    // Two fast clicks on the mark fold twice and play nothing.
     const QModelIndex index = indexAt(event->pos());
+    // Two fast clicks on the mark fold twice and play nothing.
     if (index.isValid()
         && NormalPlaylistListDelegate::expandRect(visualRect(index), index).contains(event->pos()))
         mousePressEvent(event);
-    else
-        QTreeView::mouseDoubleClickEvent(event);
+    else if (index.isValid() && event->button() == Qt::LeftButton)
+        // The tree itself would look for its own mark in front of a title, where there is none.
+        emit doubleClicked(index);
 }

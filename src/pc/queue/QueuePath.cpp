@@ -17,7 +17,7 @@ constexpr QLatin1Char kSlash('/');
 
 bool isLetter(const QString &path)
 {
-    return path.size() == 1;
+    return path.size() == 1 && path.at(0).isLetter();
 }
 
 // The cue sheet in a path with its title in front; a plain cue sheet may have an underscore as well.

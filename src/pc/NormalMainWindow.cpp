@@ -13,6 +13,7 @@
 #include "menus/OpticalDiscs.h"
 #include "menus/PlayMenu.h"
 #include "overlays/NormalLastPositionLabel.h"
+#include "overlays/NormalMetaView.h"
 #include "overlays/NormalTitleBar.h"
 #include "overlays/NormalTopBar.h"
 #include "overlays/NormalTvshowAutoPlayLabel.h"
@@ -32,6 +33,7 @@
 #include "online/PlayInfoStatisticsHelper.h"
 #include "platform/DriveLetters.h"
 #include "platform/ScreenSaver.h"
+#include "playcontrol/DiscEventRule.h"
 #include "playcontrol/DropReader.h"
 #include "playcontrol/ErrorNote.h"
 #include "playcontrol/FolderEpisodes.h"
@@ -41,6 +43,7 @@
 #include "player/DeferredSetup.h"
 #include "player/workObject.h"
 #include "preview/SmartPreview.h"
+#include "queue/NormalPlaylistView.h"
 #include "settings/NormalSettingPage.h"
 #include "ui/AnimateMenu.h"
 #include "ui/QDraggableNoBordersWnd.h"
@@ -243,7 +246,7 @@ void NormalMainWindow::connectBar()
     connect(bar, &NormalOperateBar::sig_stopClicked, m_control, &NormalPlayControl::slot_stopLater);
     connect(bar, &NormalOperateBar::sig_fullScreenClicked, this, &NormalMainWindow::slot_fullScreen);
     connect(bar, &NormalOperateBar::sig_normalScreenClicked, this, &NormalMainWindow::slot_restoreClicked);
-    connect(bar, &NormalOperateBar::sig_playNext, m_control, &NormalPlayControl::playNext);
+    connectPlaylist();
     connect(bar, &NormalOperateBar::sig_resize, this, &NormalMainWindow::slot_resizeFromRightBottom);
     connect(bar, &NormalOperateBar::sig_updateBorder, m_borders.get(),
             &QDraggableNoBordersWnd::slot_resizeBorder);
@@ -259,6 +262,25 @@ void NormalMainWindow::connectBar()
             &NormalPlayControl::slot_setupLastPositionAudioSub);
     connect(m_overlays->nextEpisode(), &NormalTvshowAutoPlayLabel::sig_playSource, this,
             qOverload<QString>(&NormalMainWindow::slot_playSource));
+}
+
+void NormalMainWindow::connectPlaylist()
+{
+    const NormalOperateBar *bar = m_overlays->bar();
+    NormalPlaylistView *playlist = m_overlays->playlist();
+    connect(bar, &NormalOperateBar::sig_playNext, playlist, &NormalPlaylistView::slot_playNext);
+    connect(bar, &NormalOperateBar::sig_playLast, playlist, &NormalPlaylistView::slot_playLast);
+    connect(playlist, &NormalPlaylistView::sig_playSource, this,
+            [this, playlist](const QString &path, int title) {
+                if (!m_control->play(path, title))
+                    playlist->requestRefused();
+            });
+    connect(playlist, &NormalPlaylistView::sig_PlayBackEnd, m_control, &NormalPlayControl::finishEnded);
+    connect(playlist, &NormalPlaylistView::sig_userBehaviour, this, noteBehaviour);
+    connect(playlist, &NormalPlaylistView::sig_notice, this,
+            [this](const QString &text) { NormalMessageBoxFactory::showNote(this, text); });
+    connect(m_control, &NormalPlayControl::queueTurn, playlist, &NormalPlaylistView::slot_autoPlayNext);
+    m_control->setQueueTitle([playlist](const QString &path) { return playlist->beginSource(path); });
 }
 
 void NormalMainWindow::connectControl()
@@ -344,6 +366,7 @@ void NormalMainWindow::slot_configLater()
 {
     m_setUp->start();
     m_settingsHost->refreshAssociations();
+    m_overlays->playlist()->queue()->load();
     m_session->open();
     auto *statistics = PlayInfoStatisticsHelper::instance();
     for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})
@@ -360,7 +383,11 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
     m_session->connectPlayer(player);
     connect(player, &QPlayer::sig_playStatusChanged, this,
             [](QPlayer::QPlayerStatus status) { ScreenSaver::setPlaying(QPlayer::isMoving(status)); });
-    connect(player, &QPlayer::sig_DiscEventOccured, m_discs, &OpticalDiscs::refresh);
+    connect(player, &QPlayer::sig_DiscEventOccured, this, [this](char drive, VD_OPTRA_DISC_NOTIFY_TYPE type) {
+        m_discs->refresh();
+        if (DiscEventRule::isGone(int(type)))
+            m_overlays->playlist()->slot_removeDiscList(QString(QLatin1Char(drive)));
+    });
     connect(player, &QPlayer::sig_shotScreen, this, &NormalMainWindow::slot_saveScreenShot);
     connect(player, &QPlayer::sig_videoSizeChanged, this, &NormalMainWindow::slot_fitVideoSize);
 }
@@ -450,7 +477,6 @@ void NormalMainWindow::slot_backToSelectView()
     m_playView->showWaiting(false);
     m_playView->surface()->setPlaying(false);
     m_droppedSubtitles.clear();
-    m_control->setWaiting({});
     showRecent();
     m_stack->setCurrentWidget(m_startView);
     setWindowTitle(ApplicationInfoManager::productName());
@@ -620,6 +646,7 @@ void NormalMainWindow::closeEvent(QCloseEvent *event)
               static_cast<QObject *>(m_overlays), static_cast<QObject *>(m_overlays->bar())})
             disconnect(m_player, nullptr, listener, nullptr);
     }
+    m_overlays->playlist()->save();
     m_overlays->preview()->shutDown();
     m_control->shutDown();
     m_worker.reset();

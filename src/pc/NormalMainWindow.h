@@ -128,6 +128,7 @@ private:
     void connectParts();
     void connectTitleBar(NormalTitleBar *titleBar);
     void connectBar();
+    void connectPlaylist();
     void connectControl();
     void connectSession();
     void restoreWindow(bool showNow);

@@ -18,6 +18,7 @@
 #include "playcontrol/DropReader.h"
 #include "player/QPlayer.h"
 #include "preview/SmartPreview.h"
+#include "queue/NormalPlaylistView.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -33,6 +34,9 @@
 
 void NormalMainWindow::slot_hotKey(KeyOperateType type)
 {
+    // The keyboard is in the playlist.
+    if (m_overlays->playlist()->isKeyboardUsed())
+        return;
     // What the strip of pictures takes for itself.
     constexpr KeyOperateType OfStrip[] = {KeyOperate_Up,         KeyOperate_Down,
                                           KeyOperate_Left,       KeyOperate_Right,
@@ -78,7 +82,8 @@ void NormalMainWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-    if (isPlayViewShown() && m_overlays->preview()->handleKey(event))
+    if (isPlayViewShown()
+        && (m_overlays->playlist()->handleKey(event) || m_overlays->preview()->handleKey(event)))
         return;
     if (isPlayViewShown() && (isTab || m_overlays->isAwake()) && m_overlays->bar()->handleKey(event)) {
         m_overlays->wake();
@@ -202,7 +207,9 @@ void NormalMainWindow::takeDrop(const DropRule::Outcome &outcome)
 {
     if (!outcome.first.isEmpty()) {
         m_droppedSubtitles = outcome.subtitles;
-        m_control->setWaiting(outcome.queue);
+        // With the first among them the others follow it.
+        if (!outcome.queue.isEmpty())
+            m_overlays->playlist()->addSources(QStringList(outcome.first) + outcome.queue);
         slot_playSource(outcome.first);
     } else if (m_control->hasSource()) {
         for (const QString &subtitle : outcome.subtitles)

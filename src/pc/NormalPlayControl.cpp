@@ -80,7 +80,8 @@ bool NormalPlayControl::play(const QString &path, int title)
     const PlaySource source = m_paths.resolve(path);
     m_currentPath = source.path;
     m_displayName = source.displayName;
-    m_titleNumber = title;
+    const int queueTitle = m_queueTitle ? m_queueTitle(source.path) : -1;
+    m_titleNumber = title != -1 ? title : queueTitle;
     m_sourceKind = source.kind;
     m_hasSource = true;
 
@@ -98,15 +99,6 @@ bool NormalPlayControl::play(const QString &path, int title)
     m_setUp.start();
     m_playThread.start(QThread::InheritPriority);
     emit sourceAccepted(m_displayName);
-    return true;
-}
-
-bool NormalPlayControl::playNext()
-{
-    // What can't be taken now stays for the next time.
-    if (m_waiting.isEmpty() || !play(m_waiting.first()))
-        return false;
-    m_waiting.removeFirst();
     return true;
 }
 
@@ -236,7 +228,7 @@ void NormalPlayControl::endReached()
 
 void NormalPlayControl::followEnd(const QString &nextEpisode, bool isThere)
 {
-    const EndRule::State state{m_closeAtEnd, nextEpisode, !m_waiting.isEmpty()};
+    const EndRule::State state{m_closeAtEnd, nextEpisode};
     switch (EndRule::after(state, [isThere](const QString &) { return isThere; })) {
     case EndRule::Next::CloseWindow:
         emit closeWanted();
@@ -244,11 +236,8 @@ void NormalPlayControl::followEnd(const QString &nextEpisode, bool isThere)
     case EndRule::Next::PlayNextEpisode:
         QTimer::singleShot(0, this, [this, nextEpisode] { play(nextEpisode); });
         break;
-    case EndRule::Next::PlayNextInQueue:
-        QTimer::singleShot(0, this, &NormalPlayControl::playNext);
-        break;
-    case EndRule::Next::BackToSelectView:
-        QTimer::singleShot(0, this, &NormalPlayControl::finishEnded);
+    case EndRule::Next::AskQueue:
+        QTimer::singleShot(0, this, &NormalPlayControl::queueTurn);
         break;
     }
 }

@@ -14,7 +14,6 @@
 #include "player/QPlayer.h"
 
 #include <QObject>
-#include <QStringList>
 
 #include <functional>
 
@@ -31,11 +30,11 @@ public:
     // The episode that follows the source at its end, empty without one; asked when the source has ended.
     void setNextEpisode(std::function<QString()> nextEpisode) { m_nextEpisode = std::move(nextEpisode); }
 
-    // What plays after the source, in order; a request of another kind leaves it as it is.
-    void setWaiting(const QStringList &paths) { m_waiting = paths; }
-    [[nodiscard]] QStringList waiting() const { return m_waiting; }
-    // The first that waits; false without one.
-    bool playNext();
+    // Told of each source that is on its way; gives the title to open where none was asked for, -1 for none.
+    void setQueueTitle(std::function<int(const QString &path)> queueTitle)
+    {
+        m_queueTitle = std::move(queueTitle);
+    }
 
     // False when the request was dropped: the engine can't play, or an open is under way.
     bool play(const QString &path, int title = -1);
@@ -78,6 +77,8 @@ public slots:
     void slot_responseDiscEvent(char cDrive, VD_OPTRA_DISC_NOTIFY_TYPE NotifyType);
     void slot_setupLastPositionAudioSub();
 
+    // Nothing follows any more.
+    void finishEnded();
     // The user has read why a source can't be played.
     void failureRead(int errCode);
 
@@ -93,6 +94,8 @@ signals:
     void playing();
     void idle();
     void selectViewWanted();
+    // The source has ended and the queue has its turn.
+    void queueTurn();
     void closeWanted();
     void failureToTell(int errCode);
     void noteToTell(int type);
@@ -102,7 +105,6 @@ private:
     static void stopFunction(void *self);
     void runOrder();
     void stopOnThread();
-    void finishEnded();
     void endReached();
     void followEnd(const QString &nextEpisode, bool isThere);
     // Runs an action a little later, if this is still the source then.
@@ -119,7 +121,7 @@ private:
     PlayOrder m_order;
     std::function<QString()> m_nextEpisode;
     FilePresence m_presence; // asked for the next episode at the end of a source
-    QStringList m_waiting;
+    std::function<int(const QString &path)> m_queueTitle;
 
     QString m_currentPath;
     QString m_displayName;

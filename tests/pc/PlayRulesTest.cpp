@@ -42,21 +42,15 @@ TEST(EndRuleTest, CloseAtEndComesBeforeTheQueueIsConsulted)
 {
     bool isAsked = false;
     const auto exists = [&isAsked](const QString &) { return isAsked = true; };
-    EXPECT_EQ(EndRule::after({true, "/next.mkv", true}, exists), EndRule::Next::CloseWindow);
+    EXPECT_EQ(EndRule::after({true, "/next.mkv"}, exists), EndRule::Next::CloseWindow);
     EXPECT_FALSE(isAsked);
 }
 
 TEST(EndRuleTest, ExistingNextEpisodeComesBeforeTheQueue)
 {
-    EXPECT_EQ(EndRule::after({false, "/next.mkv", true}, always), EndRule::Next::PlayNextEpisode);
-    EXPECT_EQ(EndRule::after({false, "/next.mkv", true}, never), EndRule::Next::PlayNextInQueue);
-    EXPECT_EQ(EndRule::after({false, "", true}, always), EndRule::Next::PlayNextInQueue);
-}
-
-TEST(EndRuleTest, NothingLeftLeadsBackToTheSelectView)
-{
-    EXPECT_EQ(EndRule::after({false, "", false}, always), EndRule::Next::BackToSelectView);
-    EXPECT_EQ(EndRule::after({false, "/next.mkv", false}, never), EndRule::Next::BackToSelectView);
+    EXPECT_EQ(EndRule::after({false, "/next.mkv"}, always), EndRule::Next::PlayNextEpisode);
+    EXPECT_EQ(EndRule::after({false, "/next.mkv"}, never), EndRule::Next::AskQueue);
+    EXPECT_EQ(EndRule::after({false, ""}, always), EndRule::Next::AskQueue);
 }
 
 TEST(MenuCaseTest, EachKindOfDiscFollowsItsOwnSetting)

@@ -2,11 +2,14 @@
 
 namespace DiscEventRule {
 
+bool isGone(int notifyType)
+{
+    return notifyType == Removed || notifyType == Ejected;
+}
+
 bool stopsPlay(char drive, int notifyType, const QString &playingPath)
 {
-    if (notifyType != Removed && notifyType != Ejected)
-        return false;
-    return playingPath.size() == 1 && playingPath.at(0).toLower() == QChar(QLatin1Char(drive)).toLower();
+    return isGone(notifyType) && playingPath.size() == 1 && playingPath.at(0).toLower() == QChar(QLatin1Char(drive)).toLower();
 }
 
 } // namespace DiscEventRule

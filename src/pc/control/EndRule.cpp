@@ -8,7 +8,7 @@ Next after(const State &state, const std::function<bool(const QString &)> &exist
         return Next::CloseWindow;
     if (!state.nextEpisode.isEmpty() && exists(state.nextEpisode))
         return Next::PlayNextEpisode;
-    return state.queueGoesOn ? Next::PlayNextInQueue : Next::BackToSelectView;
+    return Next::AskQueue;
 }
 
 } // namespace EndRule

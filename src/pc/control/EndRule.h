@@ -10,14 +10,12 @@ namespace EndRule {
 enum class Next {
     CloseWindow,
     PlayNextEpisode, // at once, the queue is not asked
-    PlayNextInQueue,
-    BackToSelectView
+    AskQueue         // which may have nothing more
 };
 
 struct State {
     bool closeAtEnd{false}; // asked for by the command line
     QString nextEpisode;    // path, empty when there is none or the user does not want it
-    bool queueGoesOn{false};
 };
 
 // exists tells whether a path is there to be played; it is asked only where the answer counts.

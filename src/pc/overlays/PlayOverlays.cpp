@@ -11,9 +11,12 @@
 #include "transport/VolumeControl.h"
 
 #include "keys/AppEventFilter.h"
+#include "core/SettingsManager.h"
 #include "player/QPlayer.h"
 #include "preview/PlayerPreviewSource.h"
 #include "preview/SmartPreview.h"
+#include "queue/NormalPlaylistSwitch.h"
+#include "queue/NormalPlaylistView.h"
 #include "ui/OverlayHost.h"
 
 #include <QApplication>
@@ -31,7 +34,7 @@ constexpr int kUnderTitle = 64;
 constexpr int kUnderSpeed = 112;
 constexpr int kAboveBar = 128;
 
-enum Level { InformationLevel, StripLevel, NoteLevel, BarLevel };
+enum Level { InformationLevel, StripLevel, NoteLevel, BarLevel, PopLevel };
 
 int tipOf(QPlayer::QPlayerStatus status)
 {
@@ -49,6 +52,16 @@ int tipOf(QPlayer::QPlayerStatus status)
     }
 }
 
+// What the playlist asks of the engine, on its worker.
+NormalPlaylistView::Services playlistServices()
+{
+    NormalPlaylistView::Services services;
+    services.queue.titles = [](const QString &path, int itemType) {
+        return QPlayer::instance()->prepareDisc(path, itemType);
+    };
+    return services;
+}
+
 } // namespace
 
 PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *episodes)
@@ -63,6 +76,8 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
     , m_nextEpisode(new NormalTvshowAutoPlayLabel(episodes, window))
     , m_preview(new SmartPreview(window, std::make_shared<PlayerPreviewSource>(),
                                  [this](double seconds) { emit seekWanted(int(seconds)); }))
+    , m_playlist(new NormalPlaylistView(*SettingsManager::instance(), playlistServices(), window))
+    , m_playlistSwitch(new NormalPlaylistSwitch(window))
 {
     m_wakeTimer.setSingleShot(true);
     m_wakeTimer.setInterval(kWakeMs);
@@ -77,13 +92,12 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
         return AppEventFilter::instance()->keySequence(false, operation).toString(QKeySequence::NativeText);
     });
     m_preview->connectBar(m_bar);
-    // Nothing answers it yet.
-    m_bar->setPlaceAvailable(TransportPlace::Playlist, false);
     m_tip->setSpeedText([] {
         auto *player = QPlayer::instance();
         return player->speedTexts().value(player->speedIndex());
     });
     place();
+    connectPlaylist();
 }
 
 PlayOverlays::~PlayOverlays() = default;
@@ -105,13 +119,29 @@ void PlayOverlays::place()
     };
     for (const auto &row : rows)
         m_host->add(row.widget, row.rule);
-    m_preview->addTo(*m_host, StripLevel, NoteLevel);
+    m_preview->addTo(*m_host, StripLevel, PopLevel);
+    m_host->add(m_playlist, NormalPlaylistView::rule(StripLevel));
+    m_host->add(m_playlistSwitch, NormalPlaylistSwitch::rule(false, StripLevel));
+}
+
+void PlayOverlays::connectPlaylist()
+{
+    connect(m_bar, &NormalOperateBar::sig_playlistClicked, m_playlist, &NormalPlaylistView::setOpen);
+    connect(m_playlistSwitch, &NormalPlaylistSwitch::sig_switched, m_playlist, &NormalPlaylistView::setOpen);
+    connect(m_playlist, &NormalPlaylistView::sig_widgetStateChanged, this, [this](bool isOpen) {
+        m_bar->slot_updatePlaylistButton(isOpen);
+        m_playlistSwitch->slot_setPanelOpen(isOpen);
+        m_host->setRule(m_playlistSwitch, NormalPlaylistSwitch::rule(isOpen, StripLevel));
+        m_restTimer.start();
+    });
 }
 
 void PlayOverlays::connectPlayer(QPlayer *player)
 {
     connect(player, &QPlayer::sig_playStatusChanged, m_bar, &NormalOperateBar::slot_setUiByStatus);
     connect(player, &QPlayer::sig_timeChanged, m_bar, &NormalOperateBar::slot_setTimeInfo);
+    connect(player, &QPlayer::sig_playStatusChanged, m_playlist, &NormalPlaylistView::slot_setPlayStatus);
+    connect(player, &QPlayer::sig_playMetaChanged, m_playlist, &NormalPlaylistView::slot_setMetaInfo);
     connect(player, &QPlayer::sig_timeChanged, m_preview, &SmartPreview::slot_setTimeInfo);
     connect(player, &QPlayer::sig_seekState, m_bar, &NormalOperateBar::slot_responseSeekState);
     connect(player, &QPlayer::sig_volumeChanged, m_bar->volumeControl(), &VolumeControl::showVolume);
@@ -122,6 +152,10 @@ void PlayOverlays::connectPlayer(QPlayer *player)
     connect(player, &QPlayer::sig_playStatusChanged, this, [this](QPlayer::QPlayerStatus status) {
         if (!m_hasSource)
             return;
+        // The session with its pictures ends with the play.
+        if (status == QPlayer::QPlayerStatus_Stopped || status == QPlayer::QPlayerStatus_Ended
+            || status == QPlayer::QPlayerStatus_Failed)
+            m_preview->endSource();
         if (m_wakeTimer.isActive())
             wake();
         m_tip->showTip(tipOf(status));
@@ -151,6 +185,7 @@ void PlayOverlays::showOpened(const QString &path, bool isDisc)
 
 void PlayOverlays::endSource()
 {
+    m_playlist->closeNow();
     m_preview->endSource();
     m_hasSource = false;
     m_staying = false;
@@ -187,6 +222,7 @@ void PlayOverlays::wake()
         return;
     m_bar->appear();
     m_topBar->appear();
+    m_playlistSwitch->appear();
     m_restTimer.start();
 }
 
@@ -201,6 +237,7 @@ bool PlayOverlays::rest()
     m_restTimer.stop();
     m_bar->disappear();
     m_topBar->disappear();
+    m_playlistSwitch->disappear();
     return true;
 }
 
@@ -216,7 +253,9 @@ bool PlayOverlays::isHeld() const
         return true;
     const QPoint pointer = QCursor::pos();
     for (const OverlayWidget *bar :
-         {static_cast<const OverlayWidget *>(m_bar), static_cast<const OverlayWidget *>(m_topBar)}) {
+         {static_cast<const OverlayWidget *>(m_bar), static_cast<const OverlayWidget *>(m_topBar),
+          static_cast<const OverlayWidget *>(m_playlist),
+          static_cast<const OverlayWidget *>(m_playlistSwitch)}) {
         if (bar->isVisible() && bar->takesMouseAt(bar->mapFromGlobal(pointer)))
             return true;
     }
@@ -228,5 +267,7 @@ void PlayOverlays::retranslate()
     m_bar->retranslate();
     m_speed->retranslate();
     m_preview->retranslate();
+    m_playlist->retranslate();
+    m_playlistSwitch->retranslate();
     m_topBar->titleBar()->retranslate();
 }

@@ -1,5 +1,5 @@
 // Everything that hovers over the picture in PC mode: transport bar, title, information, tips, speed,
-// pictures of the source, and the notes of the last position and of the next episode.
+// pictures of the source, the play queue with its tab, and the notes of the last position and of the next episode.
 //
 // Makes them, places them through an OverlayHost and connects them with the player; the main window owns them
 // as their parent. Bar and title come with the mouse or the keyboard and go when both rest. GUI thread.
@@ -13,6 +13,8 @@ class NormalLastPositionLabel;
 class NormalMetaView;
 class NormalOperateBar;
 class NormalPlaySpeedBar;
+class NormalPlaylistSwitch;
+class NormalPlaylistView;
 class NormalTipLabel;
 class NormalTopBar;
 class NormalTvshowAutoPlayLabel;
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] NormalTvshowAutoPlayLabel *nextEpisode() const { return m_nextEpisode; }
 
     [[nodiscard]] SmartPreview *preview() const { return m_preview; }
+    [[nodiscard]] NormalPlaylistView *playlist() const { return m_playlist; }
 
     // A source is on its way.
     void beginSource(const QString &displayName, const QString &path);
@@ -72,6 +75,7 @@ signals:
 
 private:
     void place();
+    void connectPlaylist();
     [[nodiscard]] bool isHeld() const;
 
     OverlayHost *m_host;
@@ -83,6 +87,8 @@ private:
     NormalLastPositionLabel *m_lastPosition;
     NormalTvshowAutoPlayLabel *m_nextEpisode;
     SmartPreview *m_preview;
+    NormalPlaylistView *m_playlist;
+    NormalPlaylistSwitch *m_playlistSwitch;
     QTimer m_wakeTimer;
     QTimer m_restTimer;
     bool m_hasSource{false};

@@ -330,6 +330,30 @@ TEST_F(PreviewFetcherTest, AfterTheShutDownTheSourceIsClosedAndNeverCalledAgain)
     EXPECT_FALSE(fetcher.isWorking());
 }
 
+TEST_F(PreviewFetcherTest, ASourceThatHangsHoldsUpNobody)
+{
+    source->setStubborn(true); // not even close() brings the grab back
+    fetcher.setSource(Film);
+    source->holdGrabs(true);
+    fetcher.fill({0, 5000});
+    ASSERT_TRUE(source->waitInsideGrab());
+    QElapsedTimer clock;
+    clock.start();
+    fetcher.request(1000);
+    fetcher.stopFill();
+    fetcher.closeSession();
+    fetcher.setSource(QStringLiteral("/films/b.mkv"));
+    fetcher.request(2000);
+    fetcher.fill({0});
+    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_TRUE(fetcher.isWorking());
+    source->holdGrabs(false);
+    ASSERT_EVENTUALLY(ends == 1 && ready.contains(2000));
+    EXPECT_EQ(ready, QVector<int>{2000});
+    EXPECT_EQ(rows, QVector<int>{0});
+    EXPECT_EQ(source->path(), QStringLiteral("/films/b.mkv"));
+}
+
 TEST_F(PreviewFetcherTest, AFetcherThatGoesDuringAFetchClosesTheSession)
 {
     auto own = std::make_unique<PreviewFetcher>(source);

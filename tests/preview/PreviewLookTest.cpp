@@ -201,6 +201,7 @@ TEST_P(PreviewLookTest, PopUp)
     NormalPreviewPopView pop(&window);
     const QPoint at = window.mapToGlobal(QPoint(Look::px(600), Look::px(640)));
     pop.slot_showSeekView(QStringLiteral("01:02:37"), at);
+    pop.showNoPicture(3757000);
     keep(pop, QStringLiteral("pop_time"));
     pop.showPicture(3757000, film(3757000, {324, 182}));
     EXPECT_TRUE(window.rect().contains(pop.geometry()));

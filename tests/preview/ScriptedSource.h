@@ -54,11 +54,19 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         ++m_closes;
         m_isOpen = false;
+        if (m_isStubborn)
+            return;
         ++m_releases;
         m_changed.notify_all();
     }
 
     // ---- the test's side
+    // close() does not bring a held grab back.
+    void setStubborn(bool stubborn)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isStubborn = stubborn;
+    }
     void setOpensWell(bool well)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -134,6 +142,7 @@ private:
     QString m_path;
     bool m_opensWell{true};
     bool m_isOpen{false};
+    bool m_isStubborn{false};
     bool m_holdGrab{false};
     bool m_holdOpen{false};
     int m_insideGrab{0};

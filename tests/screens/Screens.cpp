@@ -16,6 +16,9 @@
 #include "overlays/NormalLastPositionLabel.h"
 #include "overlays/NormalTvshowAutoPlayLabel.h"
 #include "pc/NormalMainWindow.h"
+#include "preview/NormalPreviewPopView.h"
+#include "preview/NormalPreviewView.h"
+#include "preview/PreviewFetcher.h"
 #include "start/NormalStartView.h"
 #include "transport/ThreeDMenu.h"
 #include "tv/TvStartWidget.h"
@@ -63,6 +66,21 @@ public:
     }
 };
 
+// A film that wanders over the landscape.
+class LandscapeFilm final : public IPreviewSource {
+public:
+    bool open(const QString &) override { return true; }
+    PreviewPicture grab(int positionMs) override
+    {
+        const QSize size(324, 182);
+        const QImage whole = FilmFrame::make(size * 2);
+        const double part = positionMs / 1000 % 900 / 900.0;
+        const QPoint corner(qRound(part * size.width()), qRound((0.35 + 0.65 * part) * size.height()));
+        return {whole.copy(QRect(corner, size)), positionMs};
+    }
+    void close() override {}
+};
+
 void applySheet(const char *name)
 {
     QFile file(QLatin1String(StyleLoader::kCssPrefix) + QLatin1String(name));
@@ -106,6 +124,7 @@ void Screens::drawAll()
     drawPictureDialogs();
     drawOtherDialogs();
     drawNotes();
+    drawPreview();
     drawMenus();
     drawTv();
 }
@@ -234,6 +253,36 @@ void Screens::drawNotes()
     episode.animate(QStringLiteral("animate"))->setCurrentTime(Look::FadeInMs);
     settle(episode);
     keepOverFilm(episode, QStringLiteral("note-next-episode"));
+}
+
+void Screens::drawPreview()
+{
+    QWidget window;
+    window.resize(Look::px(1024), Look::px(576));
+    window.show();
+    PreviewFetcher fetcher(std::make_shared<LandscapeFilm>());
+    fetcher.setSource(QStringLiteral("/films/film.mkv"));
+    NormalPreviewView strip(
+        fetcher, [](double) {}, &window);
+    QEventLoop filling;
+    QObject::connect(&fetcher, &PreviewFetcher::fillEnded, &filling, &QEventLoop::quit);
+    strip.setPlayingSecond(2883);
+    strip.open(7581);
+    filling.exec();
+    strip.resize(strip.sizeHint());
+    strip.animate(QStringLiteral("animate"))->setCurrentTime(Look::FadeInMs);
+    settle(strip);
+    keepOverFilm(strip, QStringLiteral("preview-strip"));
+
+    NormalPreviewPopView pop(&window);
+    QObject::connect(&pop, &NormalPreviewPopView::sig_pictureWanted, &fetcher, &PreviewFetcher::request);
+    QObject::connect(&fetcher, &PreviewFetcher::pictureReady, &pop, &NormalPreviewPopView::showPicture);
+    QObject::connect(&fetcher, &PreviewFetcher::pictureReady, &filling, &QEventLoop::quit);
+    pop.slot_showSeekView(QStringLiteral("01:02:37"), window.mapToGlobal({Look::px(512), Look::px(500)}));
+    if (!pop.hasPicture())
+        filling.exec();
+    settle(pop);
+    keepOverFilm(pop, QStringLiteral("preview-picture"));
 }
 
 void Screens::drawMenus()

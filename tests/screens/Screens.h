@@ -21,6 +21,7 @@ private:
     void drawPictureDialogs();
     void drawOtherDialogs();
     void drawNotes();
+    void drawPreview();
     void drawMenus();
     void drawTv();
 

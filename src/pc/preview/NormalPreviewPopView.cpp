@@ -58,10 +58,11 @@ NormalPreviewPopView::NormalPreviewPopView(QWidget *parent)
 {
     setFocusPolicy(Qt::NoFocus);
     m_stale.setSingleShot(true);
-    m_stale.setInterval(StaleMs);
     connect(&m_stale, &QTimer::timeout, this, [this] {
-        m_picture = {};
-        setForm(Form::Waiting);
+        if (m_form == Form::Picture)
+            wait();
+        else
+            setForm(Form::TimeOnly);
     });
     hide();
 }
@@ -117,9 +118,14 @@ void NormalPreviewPopView::slot_showSeekView(QString time, QPoint pt)
     m_wantedMs = secondsOf(time) * MsASecond;
     setAccessibleName(time);
     if (isOther) {
-        // A picture of this very moment may still be there.
-        if (m_form == Form::Picture && m_shownMs != m_wantedMs && !m_stale.isActive())
-            m_stale.start();
+        // What was shown at another place when the pointer left is nothing to begin with.
+        const bool isShown = m_form == Form::Picture && m_shownMs != m_wantedMs;
+        if (isShown && !isWanted())
+            wait();
+        else if (isShown && !m_stale.isActive())
+            m_stale.start(StaleMs);
+        else if (m_form == Form::Waiting && !m_stale.isActive())
+            m_stale.start(WaitMs);
         emit sig_pictureWanted(m_wantedMs);
     }
     place();
@@ -146,7 +152,7 @@ void NormalPreviewPopView::showPicture(int positionMs, const QImage &picture)
     if (positionMs == m_wantedMs)
         m_stale.stop();
     else if (isWanted())
-        m_stale.start();
+        m_stale.start(StaleMs);
     setForm(Form::Picture);
 }
 
@@ -164,7 +170,14 @@ void NormalPreviewPopView::reset()
     slot_closeSeek();
     m_picture = {};
     m_lastSize = {};
-    m_form = Form::TimeOnly;
+    m_form = Form::Waiting;
+}
+
+void NormalPreviewPopView::wait()
+{
+    m_picture = {};
+    m_stale.start(WaitMs);
+    setForm(Form::Waiting);
 }
 
 void NormalPreviewPopView::setForm(Form form)

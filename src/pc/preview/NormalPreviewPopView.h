@@ -16,6 +16,8 @@ class NormalPreviewPopView final : public OverlayWidget {
 public:
     // A picture that stands for another moment is shown no longer than this.
     static constexpr int StaleMs = 400;
+    // And an empty place for a picture no longer than this; a source may never answer.
+    static constexpr int WaitMs = 1500;
 
     explicit NormalPreviewPopView(QWidget *parent = nullptr);
 
@@ -56,9 +58,10 @@ private:
     [[nodiscard]] QSize cardSize() const;
     [[nodiscard]] int shadow() const;
     void setForm(Form form);
+    void wait();
     void place();
 
-    Form m_form{Form::TimeOnly};
+    Form m_form{Form::Waiting};
     QString m_time;
     QPoint m_point;
     int m_wantedMs{0};

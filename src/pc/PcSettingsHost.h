@@ -1,7 +1,7 @@
 // What the settings dialog asks of the program: the engine, the desktop's file types, other programs.
 //
-// GUI thread. File types are read and changed on a worker; until it has answered, none counts as this player's.
-// Refers to the store, which outlives it.
+// GUI thread. File types are read and changed on a worker; until it has answered, none counts as this
+// player's. Refers to the store, which outlives it.
 #pragma once
 
 #include "settings/ISettingsHost.h"

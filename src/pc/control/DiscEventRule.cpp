@@ -9,7 +9,8 @@ bool isGone(int notifyType)
 
 bool stopsPlay(char drive, int notifyType, const QString &playingPath)
 {
-    return isGone(notifyType) && playingPath.size() == 1 && playingPath.at(0).toLower() == QChar(QLatin1Char(drive)).toLower();
+    return isGone(notifyType) && playingPath.size() == 1
+           && playingPath.at(0).toLower() == QChar(QLatin1Char(drive)).toLower();
 }
 
 } // namespace DiscEventRule

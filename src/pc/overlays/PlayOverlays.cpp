@@ -10,8 +10,8 @@
 #include "transport/NormalPlaySpeedBar.h"
 #include "transport/VolumeControl.h"
 
-#include "keys/AppEventFilter.h"
 #include "core/SettingsManager.h"
+#include "keys/AppEventFilter.h"
 #include "player/QPlayer.h"
 #include "preview/PlayerPreviewSource.h"
 #include "preview/SmartPreview.h"

@@ -1,5 +1,6 @@
 // Everything that hovers over the picture in PC mode: transport bar, title, information, tips, speed,
-// pictures of the source, the play queue with its tab, and the notes of the last position and of the next episode.
+// pictures of the source, the play queue with its tab, and the notes of the last position and of the next
+// episode.
 //
 // Makes them, places them through an OverlayHost and connects them with the player; the main window owns them
 // as their parent. Bar and title come with the mouse or the keyboard and go when both rest. GUI thread.

@@ -52,10 +52,11 @@ void FileAssociationList::setEnabled(bool enabled)
 
 QString FileAssociationList::textOf(const QStringList &extensions)
 {
-    QString text;
+    QStringList parts;
     for (const QString &extension : extensions)
-        text += QStringLiteral("*.%1;").arg(extension);
-    return text;
+        parts.append(QStringLiteral("*.%1;").arg(extension));
+    // With blanks, so that a line ends between two of them.
+    return parts.join(QLatin1Char(' '));
 }
 
 QStringList FileAssociationList::extensionsOf(const QString &text)

@@ -1,5 +1,5 @@
 // The extensions that are to open with the program, as the text box of the settings holds them:
-// "*.mkv;*.mp4;".
+// "*.mkv; *.mp4;".
 //
 // Checks the text, keeps it in the store and works out what the system has to change. Knows no widget. GUI
 // thread.

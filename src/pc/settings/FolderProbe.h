@@ -21,6 +21,7 @@ class FolderProbe final : public QObject {
 
 public:
     enum Answer { Usable, Missing, NoFolder, NotReadable, NotWritable, Silent };
+    Q_ENUM(Answer)
     using Ask = std::function<Answer(const QString &folder, FolderNeed need)>;
     static constexpr int PatienceMs = 3000;
 

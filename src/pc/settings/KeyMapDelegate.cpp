@@ -97,7 +97,7 @@ void KeyMapDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     if (isSelected)
         painter->fillRect(option.rect, Look::color(SelectedRow));
-    painter->setPen(Look::color(Look::Line));
+    painter->setPen(QColor(255, 255, 255, 20));
     painter->drawLine(QPointF(option.rect.left(), option.rect.bottom() + 0.5),
                       QPointF(option.rect.right() + 1, option.rect.bottom() + 0.5));
 

@@ -79,10 +79,11 @@ QLabel *SettingsPageWidget::addHead(const char *text)
 {
     auto *head = new QLabel(this);
     head->setObjectName(QLatin1String(SettingsLook::Head));
-    head->setContentsMargins(0, Look::px(m_body->count() > 1 ? HeadAbove : HeadBelow), 0,
-                             Look::px(HeadBelow));
+    // The first part is the stretch at the end.
+    m_body->insertSpacing(m_body->count() - 1, Look::px(m_body->count() > 1 ? HeadAbove : HeadBelow));
     keepText(head, text);
     addPart(head);
+    m_body->insertSpacing(m_body->count() - 1, Look::px(HeadBelow));
     return head;
 }
 

@@ -8,6 +8,7 @@
 #include "HotKeysPage.h"
 #include "LibraryPage.h"
 #include "NetworkPage.h"
+#include "PageListDelegate.h"
 #include "PlaybackPage.h"
 #include "SettingsLook.h"
 #include "SnapshotPage.h"
@@ -80,6 +81,8 @@ void NormalSettingPage::makeParts()
     m_list = new QListWidget(panel());
     m_list->setObjectName(QLatin1String(SettingsLook::Pages));
     m_list->setFixedWidth(Look::px(SettingsLook::PageListWidth));
+    m_list->setItemDelegate(new PageListDelegate(m_list));
+    m_list->setMouseTracking(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

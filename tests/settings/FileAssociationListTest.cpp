@@ -1,6 +1,7 @@
 #include "FakeSettingsHost.h"
 #include "TestSettings.h"
 
+#include "core/CommonInfoManager.h"
 #include "settings/FileAssociationList.h"
 #include "support/TestLog.h"
 
@@ -40,6 +41,13 @@ TEST(FileAssociationText, IsChecked)
     };
     for (const auto &[text, problem] : rows)
         EXPECT_EQ(FileAssociationList::problemOf(QString::fromLatin1(text)), problem) << text;
+}
+
+TEST(FileAssociationText, EverythingTheProgramPlaysIsRight)
+{
+    EXPECT_EQ(
+        FileAssociationList::problemOf(FileAssociationList::textOf(CommonInfoManager::playableExtensions())),
+        Problem::None);
 }
 
 TEST(FileAssociationText, ALongWrongTextCostsNoTime)

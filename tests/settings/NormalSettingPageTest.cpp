@@ -199,6 +199,7 @@ TEST_F(NormalSettingPageTest, ARefusedAssociationIsTold)
     dialog().model().setValue(SettingsKeys::EnableFileAssociation, true);
     dialog().okButton()->click();
     ASSERT_EVENTUALLY(!dialog().isVisible());
+    ASSERT_EVENTUALLY(!m_told.isEmpty());
     EXPECT_EQ(m_told, QStringList{QStringLiteral("The file associations were not changed.")});
     EXPECT_FALSE(m_store->enableFileAssociation());
 }

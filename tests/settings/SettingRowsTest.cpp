@@ -39,6 +39,9 @@ std::vector<RowCase> allRows()
 // A value that is not the default.
 QVariant otherValue(const SettingRow &row)
 {
+    // A mode without a device is not kept: it is that of the device.
+    if (qstrcmp(row.key, SettingTables::OutputMode) == 0)
+        return int(SettingTables::OutputHdmi);
     switch (row.control) {
     case SettingControl::Switch:
     case SettingControl::None:

@@ -77,7 +77,7 @@ QStringList FileAssociationList::extensionsOf(const QString &text)
 FileAssociationList::Problem FileAssociationList::problemOf(const QString &text)
 {
     // Possessive, so that a long wrong text costs no more than a right one.
-    static const QRegularExpression form(QStringLiteral("\\A(?:\\*\\.[a-zA-Z0-9]++;\\s*+)*+\\z"));
+    static const QRegularExpression form(QStringLiteral("\\A(?:\\*\\.[a-zA-Z0-9-]++;\\s*+)*+\\z"));
     const QString whole = closed(text);
     if (!form.match(whole).hasMatch())
         return Problem::Form;

@@ -68,13 +68,23 @@ NormalSettingPage::NormalSettingPage(SettingsManager &store, ISettingsHost &host
     connect(m_model, &SettingsModel::checked, this, &NormalSettingPage::onChecked);
     connect(m_model, &SettingsModel::adultLibraryChanged, this,
             &NormalSettingPage::sig_adultLibraryStateChanged);
-    connect(m_model, &SettingsModel::associationsRefused, this, [this] {
-        if (m_boxes.tell)
-            m_boxes.tell(isVisible() ? this : parentWidget(), tr("The file associations were not changed."));
-    });
+    // A box in the middle of the save operations would hold up those that follow.
+    connect(
+        m_model, &SettingsModel::associationsRefused, this,
+        [this] {
+            if (m_boxes.tell)
+                m_boxes.tell(isVisible() ? this : parentWidget(),
+                             tr("The file associations were not changed."));
+        },
+        Qt::QueuedConnection);
 }
 
-NormalSettingPage::~NormalSettingPage() = default;
+NormalSettingPage::~NormalSettingPage()
+{
+    // The pages are views of the model.
+    for (QScrollArea *frame : m_frames)
+        delete frame;
+}
 
 void NormalSettingPage::makeParts()
 {

@@ -12,6 +12,7 @@ namespace {
 
 FolderProbe::Answer answerTo(FolderProbe &probe, const QString &folder, FolderNeed need)
 {
+    qRegisterMetaType<FolderProbe::Answer>("FolderProbe::Answer");
     QSignalSpy answered(&probe, &FolderProbe::answered);
     const int question = probe.ask(folder, need);
     EXPECT_TRUE(answered.wait());
@@ -63,6 +64,7 @@ TEST(FolderProbe, AFolderThatDoesNotAnswerIsGivenUpAndItsAnswerIgnored)
             return FolderProbe::Usable;
         },
         20);
+    qRegisterMetaType<FolderProbe::Answer>("FolderProbe::Answer");
     QSignalSpy answered(&probe, &FolderProbe::answered);
     (void)probe.ask(QStringLiteral("/share"), FolderNeed::Writable);
     EXPECT_TRUE(probe.isBusy());

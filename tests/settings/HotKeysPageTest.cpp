@@ -147,6 +147,7 @@ TEST_F(HotKeysPageTest, APressedKeyIsTheNewOne)
 
 TEST_F(HotKeysPageTest, AConflictNamesTheOtherAndCanBeTakenBack)
 {
+    qRegisterMetaType<QList<QModelIndex>>("QList<QModelIndex>");
     auto *delegate = qobject_cast<KeyMapDelegate *>(m_page->table()->itemDelegate());
     QSignalSpy list(delegate, &KeyMapDelegate::SIG_KeyConflictList);
     QSignalSpy index(delegate, &KeyMapDelegate::SIG_KeyConflictIndex);

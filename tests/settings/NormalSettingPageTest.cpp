@@ -169,6 +169,7 @@ TEST_F(NormalSettingPageTest, ACancelDuringTheCheckStoresNothing)
     dialog().slot_okClicked();
     EXPECT_FALSE(dialog().okButton()->isEnabled());
     dialog().slot_cancelClicked();
+    qRegisterMetaType<FolderProbe::Answer>("FolderProbe::Answer");
     FolderProbe other;
     QSignalSpy answered(&other, &FolderProbe::answered);
     (void)other.ask(folder.path(), FolderNeed::Readable);
@@ -259,7 +260,7 @@ TEST_F(NormalSettingPageTest, TabGoesFromTheListThroughThePageToTheButtons)
             way << dialog().focusWidget();
         }
         ASSERT_EQ(way.last(), dialog().okButton());
-        ASSERT_GE(way.size(), 5);
+        ASSERT_GE(way.size(), 4);
         EXPECT_EQ(way.at(way.size() - 2), dialog().cancelButton());
         EXPECT_EQ(way.at(way.size() - 3), dialog().defaultButton());
         for (int step = 0; step < way.size() - 3; ++step)

@@ -316,6 +316,7 @@ TEST_F(SettingsModelTest, ACancelledCheckAnswersNothing)
     model.cancelCheck();
     EXPECT_FALSE(model.isChecking());
     // What was asked is answered before what is asked now.
+    qRegisterMetaType<FolderProbe::Answer>("FolderProbe::Answer");
     FolderProbe other;
     QSignalSpy answered(&other, &FolderProbe::answered);
     (void)other.ask(folder.path(), FolderNeed::Readable);

@@ -45,7 +45,7 @@ int KeyMapModel::columnCount(const QModelIndex &parent) const
 
 QVariant KeyMapModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || index.row() >= m_operations.size())
         return {};
     const int operation = m_operations.at(index.row());
     const int key = m_keys.at(index.row());
@@ -85,7 +85,8 @@ Qt::ItemFlags KeyMapModel::flags(const QModelIndex &index) const
 
 bool KeyMapModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || index.column() != KeyColumn || role != KeyRole)
+    if (!index.isValid() || index.row() >= m_operations.size() || index.column() != KeyColumn
+        || role != KeyRole)
         return false;
     bool isNumber = false;
     const int key = value.toInt(&isNumber);

@@ -1,5 +1,6 @@
 // The picture effects that come with the program: each compiles, does to the picture what its name says, and
 // leaves nothing behind.
+#include "PictureMeasure.h"
 #include "SurfaceWindow.h"
 #include "play/PlayRig.h"
 #include "play/TestClips.h"
@@ -12,6 +13,8 @@
 #include <cmath>
 
 using namespace libvp;
+using PictureMeasure::contrast;
+using PictureMeasure::mean;
 
 namespace {
 
@@ -50,52 +53,6 @@ protected:
         return false;
     }
 
-    // The whole picture of the clip, drawn to its end: nothing has changed for a while.
-    QImage settled()
-    {
-        QImage last = m_window.picture();
-        QElapsedTimer whole;
-        QElapsedTimer still;
-        whole.start();
-        still.start();
-        while (whole.elapsed() < 8000 && (still.elapsed() < 300 || mean(last)[0] < 40)) {
-            const QImage next = m_window.picture();
-            if (next != last)
-                still.restart();
-            last = next;
-        }
-        EXPECT_GT(mean(last)[0], 40);
-        return last;
-    }
-
-    // Mean of each channel.
-    static std::array<double, 3> mean(const QImage &picture)
-    {
-        std::array<double, 3> sum{};
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                const QRgb pixel = picture.pixel(x, y);
-                sum[0] += qRed(pixel);
-                sum[1] += qGreen(pixel);
-                sum[2] += qBlue(pixel);
-            }
-        }
-        for (double &channel : sum)
-            channel /= picture.width() * picture.height();
-        return sum;
-    }
-
-    // How much neighbours differ.
-    static double contrast(const QImage &picture)
-    {
-        double sum = 0;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 1; x < picture.width(); ++x)
-                sum += std::abs(qGray(picture.pixel(x, y)) - qGray(picture.pixel(x - 1, y)));
-        }
-        return sum / (picture.width() * picture.height());
-    }
-
     SurfaceWindow m_window;
     std::unique_ptr<PlayRig> m_rig;
 };
@@ -108,7 +65,7 @@ TEST_F(ShaderFiles, ThereAreSome)
 TEST_F(ShaderFiles, EachChangesThePictureAndGoesWithoutATrace)
 {
     openPaused("plain.mp4");
-    const QImage plain = settled();
+    const QImage plain = m_window.settled();
     for (const QString &name : QDir(effects).entryList({"*.fx"})) {
         ASSERT_TRUE(m_rig->tool->setCustomShader((effects + "/" + name).toStdString().c_str()));
         EXPECT_TRUE(waitForPicture([&](const QImage &picture) { return picture != plain; }))
@@ -123,7 +80,7 @@ TEST_F(ShaderFiles, EachChangesThePictureAndGoesWithoutATrace)
 TEST_F(ShaderFiles, SharpenLiftsTheDetail)
 {
     openPaused("plain.mp4");
-    const double plain = contrast(settled());
+    const double plain = contrast(m_window.settled());
     ASSERT_TRUE(m_rig->tool->setCustomShader(effect("Sharpen.fx").c_str()));
     EXPECT_TRUE(waitForPicture([plain](const QImage &picture) { return contrast(picture) > plain * 1.05; }));
 }
@@ -131,7 +88,7 @@ TEST_F(ShaderFiles, SharpenLiftsTheDetail)
 TEST_F(ShaderFiles, WarmNightTakesBlueOutAndLeavesRed)
 {
     openPaused("plain.mp4");
-    const auto plain = mean(settled());
+    const auto plain = mean(m_window.settled());
     SCOPED_TRACE(testing::Message() << "plain " << plain[0] << " " << plain[1] << " " << plain[2]);
     ASSERT_TRUE(m_rig->tool->setCustomShader(effect("Warm Night.fx").c_str()));
     EXPECT_TRUE(waitForPicture([&plain](const QImage &picture) {
@@ -144,7 +101,7 @@ TEST_F(ShaderFiles, WarmNightTakesBlueOutAndLeavesRed)
 TEST_F(ShaderFiles, GrainLiesOnAFlatPictureAndMoves)
 {
     openPaused("red.mp4");
-    const QImage flat = settled();
+    const QImage flat = m_window.settled();
     EXPECT_LT(contrast(flat), 0.5);
     const auto plain = mean(flat);
     ASSERT_TRUE(m_rig->tool->setCustomShader(effect("Film Grain.fx").c_str()));

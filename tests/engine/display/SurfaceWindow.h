@@ -7,10 +7,7 @@
 
 class SurfaceWindow final {
 public:
-    static constexpr int width = 640;
-    static constexpr int height = 360;
-
-    SurfaceWindow();
+    explicit SurfaceWindow(int width = 640, int height = 360);
     ~SurfaceWindow();
     SurfaceWindow(const SurfaceWindow &) = delete;
     SurfaceWindow &operator=(const SurfaceWindow &) = delete;
@@ -19,8 +16,12 @@ public:
     [[nodiscard]] bool isOpen() const;
     [[nodiscard]] void *handle() const;
     [[nodiscard]] QImage picture() const;
+    // The picture once it is drawn to its end: not black, and unchanged for a while.
+    [[nodiscard]] QImage settled() const;
 
 private:
     struct Native;
+    int m_width;
+    int m_height;
     std::unique_ptr<Native> m_native;
 };

@@ -1,5 +1,6 @@
 #include "SidecarSubtitles.h"
 
+#include "EngineLog.h"
 #include "LanguageCodes.h"
 #include "LocalFile.h"
 #include "NativePath.h"
@@ -148,8 +149,13 @@ public:
             if (isOneOf(subtitleFolders, folder.stem))
                 takeFolder(list(folder.path));
         }
-        if (!furtherFolder.empty())
+        if (furtherFolder.empty())
+            return;
+        std::error_code error;
+        if (fs::is_directory(furtherFolder, error))
             takeNamed(list(furtherFolder));
+        else
+            engineLog("[Play] no folder for subtitles: %s", furtherFolder.u8string().c_str());
     }
 
 private:

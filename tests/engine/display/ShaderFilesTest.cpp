@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -110,6 +111,20 @@ TEST_F(ShaderFiles, GrainLiesOnAFlatPictureAndMoves)
     EXPECT_LT(std::abs(mean(first)[0] - plain[0]), 8) << "as bright as before";
     m_rig->play->togglePause();
     EXPECT_TRUE(waitForPicture([&first](const QImage &picture) { return picture != first; }));
+}
+
+TEST_F(ShaderFiles, OneThatVanishedLeavesThePicture)
+{
+    const std::string shader = TestClips::scratchFolder() + "/Gone.fx";
+    TestClips::write(shader,
+                     "//!HOOK OUTPUT\n//!BIND HOOKED\nvec4 hook() { return vec4(0.0, 0.0, 1.0, 1.0); }\n");
+    ASSERT_TRUE(m_rig->tool->setCustomShader(shader.c_str()));
+    ASSERT_TRUE(QFile::remove(QString::fromStdString(shader)));
+    openPaused("red.mp4");
+    EXPECT_TRUE(waitForPicture([](const QImage &picture) {
+        const auto now = mean(picture);
+        return now[0] > 180 && now[2] < 60;
+    }));
 }
 
 TEST_F(ShaderFiles, ABrokenOneIsNotedAndThePictureStays)

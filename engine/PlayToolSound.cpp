@@ -16,6 +16,8 @@ using ToolArguments::textOf;
 constexpr float largestVolume = 2.0f;
 constexpr float largestAmplification = 60.0f; // decibels over ten
 constexpr double outlineWidth = 3.0;
+constexpr double shadowWidth = 2.0;
+constexpr char shadowColor[] = "#C0000000"; // alpha first
 
 } // namespace
 
@@ -225,6 +227,9 @@ void PlayTool::setSubtitleItalic(bool italic)
 void PlayTool::setSubtitleOutline(bool outline)
 {
     set("sub-border-size", outline ? outlineWidth : 0.0);
+    // Without one a soft shadow keeps white letters readable on a bright picture.
+    set("sub-shadow-color", shadowColor);
+    set("sub-shadow-offset", outline ? 0.0 : shadowWidth);
 }
 
 void PlayTool::setSubtitleOverride(bool override)

@@ -189,8 +189,10 @@ TEST_F(PlayPicture, SubtitleStyleReachesLibmpv)
     EXPECT_TRUE(has("sub-italic", true));
     m_rig.tool->setSubtitleOutline(false);
     EXPECT_TRUE(near("sub-border-size", 0));
+    EXPECT_TRUE(near("sub-shadow-offset", 2)) << "readable on a bright picture all the same";
     m_rig.tool->setSubtitleOutline(true);
     EXPECT_TRUE(near("sub-border-size", 3));
+    EXPECT_TRUE(near("sub-shadow-offset", 0));
     m_rig.tool->setSubtitleOverride(true);
     EXPECT_TRUE(has("sub-ass-override", "force"));
     m_rig.tool->setSubtitleOverride(false);

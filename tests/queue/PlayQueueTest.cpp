@@ -438,6 +438,19 @@ TEST_F(PlayQueues, RemoveInvalidLooksAnewAndKeepsWhatHasComeBack)
     EXPECT_EQ(names(), QStringList("b.mkv"));
 }
 
+TEST_F(PlayQueues, WhatGoesLaterStaysAfterRemoveInvalid)
+{
+    lose({"/b.mkv"});
+    add({"/a.mkv", "/b.mkv", "/c.mkv"});
+    queue->removeInvalid();
+    ASSERT_EVENTUALLY(queue->count() == 2);
+    const int looks = world->looks;
+    lose({"/c.mkv"});
+    ASSERT_EVENTUALLY((queue->checkPresence(), !queue->model()->goneRows().isEmpty()));
+    EXPECT_GT(world->looks, looks);
+    EXPECT_EQ(names(), QStringList({"a.mkv", "c.mkv"}));
+}
+
 TEST_F(PlayQueues, TenThousandMissingFilesGoWithoutHoldingTheWindowUp)
 {
     std::set<QString> gone;

@@ -17,6 +17,9 @@ constexpr int kRowsAtOnce = 2000;
 constexpr int kDiscsAsked = 16;
 // Around the row that plays, so many are looked at anew.
 constexpr int kNeighbours = 16;
+// So many are looked at together, and waited for so long.
+constexpr int kChecksAtOnce = 512;
+constexpr int kPatienceMs = 2000;
 
 FilePresence::Exists existsOr(FilePresence::Exists exists)
 {
@@ -50,8 +53,12 @@ PlayQueue::PlayQueue(SettingsManager &settings, Services services, QObject *pare
             m_playNode = m_model.titleIndex(row, playing);
         showMeta();
     });
+    m_checkTimer.setSingleShot(true);
+    m_checkTimer.setInterval(kPatienceMs);
+    connect(&m_checkTimer, &QTimer::timeout, this, &PlayQueue::checkOn);
     connect(&m_presence, &FilePresence::checked, this, [this](const QString &path, bool isPresent) {
         m_known.insert(QueuePath::key(path), isPresent);
+        --m_answersDue;
         if (m_isShowPosted)
             return;
         m_isShowPosted = true;
@@ -124,7 +131,7 @@ void PlayQueue::slot_appendSourceRow()
         QTimer::singleShot(0, this, &PlayQueue::slot_appendSourceRow);
         return;
     }
-    checkPresence();
+    QTimer::singleShot(0, this, &PlayQueue::checkPresence);
 }
 
 void PlayQueue::remove(const QModelIndexList &indexes)
@@ -153,7 +160,7 @@ void PlayQueue::dropRows(const QVector<int> &rows)
 void PlayQueue::removeAll()
 {
     m_groups.clear();
-    m_dropsInvalid = false;
+    check({});
     m_presence.check({});
     m_store.clear();
     m_model.clear();
@@ -177,7 +184,23 @@ void PlayQueue::checkPresence()
 void PlayQueue::check(const QStringList &paths)
 {
     m_known.clear();
-    m_presence.check(paths);
+    m_toCheck = paths;
+    checkOn();
+}
+
+// The next ones, when the last have been answered or their drives take too long.
+void PlayQueue::checkOn()
+{
+    m_checkTimer.stop();
+    const QStringList batch = m_toCheck.mid(0, kChecksAtOnce);
+    m_toCheck = m_toCheck.mid(batch.size());
+    m_answersDue = batch.size();
+    if (batch.isEmpty()) {
+        m_dropsInvalid = false;
+        return;
+    }
+    m_presence.check(batch);
+    m_checkTimer.start();
 }
 
 void PlayQueue::showPresence()
@@ -186,16 +209,18 @@ void PlayQueue::showPresence()
     QHash<QString, bool> known;
     known.swap(m_known);
     m_model.setPresence(known);
-    if (!m_dropsInvalid)
-        return;
-    QVector<int> rows;
-    const QVector<int> gone = m_model.goneRows();
-    for (const int row : gone) {
-        // What was said before this question does not count.
-        if (!known.value(QueuePath::key(m_model.path(row)), true))
-            rows << row;
+    if (m_dropsInvalid) {
+        QVector<int> rows;
+        const QVector<int> gone = m_model.goneRows();
+        for (const int row : gone) {
+            // What was said before this question does not count.
+            if (!known.value(QueuePath::key(m_model.path(row)), true))
+                rows << row;
+        }
+        dropRows(rows);
     }
-    dropRows(rows);
+    if (m_answersDue <= 0 && m_checkTimer.isActive())
+        checkOn();
 }
 
 void PlayQueue::sortBy(int sortType)
@@ -337,14 +362,14 @@ void PlayQueue::setStatus(QPlayer::QPlayerStatus status)
     const int row = placeOf(m_playNode).row;
     if (QueuePath::mayBeDisc(m_model.path(row)) && !m_model.isTitlesKnown(row))
         m_titles.ask(m_model.path(row));
-    if (m_dropsInvalid || isAppending())
+    if (m_checkTimer.isActive() || isAppending())
         return;
     // What comes next may have come back, or gone, since the list was looked at.
     QStringList near;
     for (int other = qMax(0, row - kNeighbours); other < qMin(m_model.sourceCount(), row + kNeighbours);
          ++other)
         near << m_model.path(other);
-    m_presence.check(near);
+    check(near);
 }
 
 void PlayQueue::setMetaInfo(QPlayer::QPlayerMetaType type, const QString &text)

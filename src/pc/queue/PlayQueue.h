@@ -14,6 +14,7 @@
 #include "player/QPlayer.h"
 
 #include <QPersistentModelIndex>
+#include <QTimer>
 
 #include <deque>
 
@@ -111,6 +112,7 @@ private:
     void append(Group group);
     void dropRows(const QVector<int> &rows);
     void check(const QStringList &paths);
+    void checkOn();
     void showPresence();
     void showMeta();
     // By value: the index of the node itself would go with the node.
@@ -129,6 +131,9 @@ private:
     bool m_isAppendPosted{false};
 
     QHash<QString, bool> m_known;
+    QStringList m_toCheck;
+    QTimer m_checkTimer;
+    int m_answersDue{0};
     bool m_isShowPosted{false};
     bool m_dropsInvalid{false};
 

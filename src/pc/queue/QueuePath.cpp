@@ -6,13 +6,12 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace QueuePath {
 
 namespace {
 
 constexpr int kLongestType = 8;
+constexpr int kLongestUnknownEnding = 4;
 constexpr QLatin1Char kSlash('/');
 
 bool isLetter(const QString &path)
@@ -50,13 +49,29 @@ QString lastPart(const QString &path)
     return name.isEmpty() ? path : name;
 }
 
+// Of a type that the tables don't know.
+bool looksLikeFile(const QString &path)
+{
+    const QString name = lastPart(path);
+    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    const int ending = name.size() - dot - 1;
+    return dot > 0 && ending > 0 && ending <= kLongestUnknownEnding && !name.contains(QLatin1Char(' '))
+           && !path.endsWith(kSlash);
+}
+
 } // namespace
 
 bool isUsable(const QString &path)
 {
-    return !path.trimmed().isEmpty() && path.size() <= Longest
-           && std::none_of(path.cbegin(), path.cend(), [](QChar character) { return character.isNull(); })
-           && !lastPart(path).isEmpty();
+    if (path.size() > Longest)
+        return false;
+    bool hasText = false;
+    for (const QChar character : path) {
+        if (character.isNull())
+            return false;
+        hasText = hasText || !character.isSpace();
+    }
+    return hasText;
 }
 
 QString kept(const QString &path)
@@ -74,26 +89,15 @@ Kind kindOf(const QString &path)
 {
     if (isLetter(path))
         return Disc;
-    switch (CommonInfoManager::kindOf(path)) {
-    case FileKind::Video:
-    case FileKind::Audio:
-    case FileKind::DiscImage:
-    case FileKind::Subtitle:
-        return File;
-    case FileKind::Other:
-        break;
-    }
-    // A file of a type that the tables don't know still looks like one.
-    const QString name = lastPart(path);
-    const int dot = name.lastIndexOf(QLatin1Char('.'));
-    const bool hasEnding = dot > 0 && name.size() - dot - 1 > 0 && name.size() - dot - 1 <= 4
-                           && !name.contains(QLatin1Char(' '), Qt::CaseSensitive);
-    return hasEnding && !path.endsWith(kSlash) ? File : Folder;
+    return CommonInfoManager::kindOf(path) != FileKind::Other || looksLikeFile(path) ? File : Folder;
 }
 
 bool mayBeDisc(const QString &path)
 {
-    return kindOf(path) != File || CommonInfoManager::kindOf(path) == FileKind::DiscImage;
+    if (isLetter(path))
+        return true;
+    const FileKind kind = CommonInfoManager::kindOf(path);
+    return kind == FileKind::DiscImage || (kind == FileKind::Other && !looksLikeFile(path));
 }
 
 QString displayName(const QString &path)

@@ -11,7 +11,6 @@
 
 namespace QueuePath {
 
-// Stored beside each path, so the numbers stay.
 enum Kind : int { File = 0, Folder = 1, Disc = 2 };
 
 // Longer ones are no paths.

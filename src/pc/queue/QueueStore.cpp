@@ -60,7 +60,11 @@ QStringList QueueStore::take(const QStringList &paths)
         if (m_keys.contains(key))
             continue;
         m_keys.insert(key);
-        m_map.insert(path, int(QueuePath::kindOf(path)));
+        // Only the keys are read again. Whole folders come in the order of their names, at the end.
+        if (m_map.isEmpty() || m_map.lastKey() < path)
+            m_map.insert(m_map.cend(), path, true);
+        else
+            m_map.insert(path, true);
         taken << path;
     }
     if (refused > 0)

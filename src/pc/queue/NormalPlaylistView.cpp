@@ -14,7 +14,6 @@
 
 #include <QListView>
 #include <QPainter>
-#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
@@ -30,7 +29,6 @@ constexpr int kRightMargin = 12;
 constexpr int kUnderTitle = 56;
 constexpr int kAboveBar = 140;
 constexpr int kBottomInset = 8;
-constexpr int kTileMargin = 8; // as in the style sheet
 constexpr int kFrame = 2;
 constexpr double kGroundOpacity = 0.96;
 
@@ -282,8 +280,7 @@ void NormalPlaylistView::resizeEvent(QResizeEvent *event)
 
 void NormalPlaylistView::placeTiles()
 {
-    const int wall =
-        m_card->width() - m_grid->verticalScrollBar()->sizeHint().width() - Look::px(kTileMargin) - 1;
+    const int wall = m_grid->viewport()->width() - 1;
     const QSize tile = NormalPlaylistIconDelegate::tileFor(wall);
     m_iconDelegate->setTile(tile);
     if (m_grid->gridSize() != tile)

@@ -195,7 +195,7 @@ bool NormalPlaylistView::eventFilter(QObject *watched, QEvent *event)
             return dealRowKey(static_cast<QKeyEvent *>(event));
         break;
     case QEvent::Resize:
-        if (watched == m_grid)
+        if (watched == m_grid->viewport())
             placeTiles();
         break;
     case QEvent::MouseMove:

@@ -64,7 +64,7 @@ public:
     void applyProxy() override { calls << QStringLiteral("proxy"); }
     void applyServerProxy() override { calls << QStringLiteral("server proxy"); }
     SettingsProxy systemProxy() const override { return proxyOfSystem; }
-    QStringList associatedExtensions() const override { return associated; }
+    void readAssociations(std::function<void(const QStringList &)> answer) override { answer(associated); }
     void changeAssociations(const QStringList &add, const QStringList &remove,
                             std::function<void(bool)> done) override
     {

@@ -149,3 +149,33 @@ TEST_F(FileAssociationListTest, AWrongTextIsNoProblemWhileItIsOff)
     list.setText(QStringLiteral("*.docx;"));
     EXPECT_EQ(list.problemText(), QStringLiteral("Oops! This file extension is not supported yet."));
 }
+
+TEST_F(FileAssociationListTest, AnAnswerThatComesAfterTheDialogIsGoneStillCounts)
+{
+    class LateHost final : public FakeSettingsHost {
+    public:
+        std::function<void(const QStringList &)> answer;
+        std::function<void(bool)> done;
+        void readAssociations(std::function<void(const QStringList &)> given) override
+        {
+            answer = std::move(given);
+        }
+        void changeAssociations(const QStringList &, const QStringList &,
+                                std::function<void(bool)> given) override
+        {
+            done = std::move(given);
+        }
+    } host;
+    {
+        FileAssociationList list(host);
+        list.load(*m_store);
+        list.setEnabled(true);
+        list.save(*m_store);
+    }
+    ASSERT_TRUE(host.answer);
+    host.answer({});
+    ASSERT_TRUE(host.done);
+    EXPECT_TRUE(m_store->enableFileAssociation());
+    host.done(false);
+    EXPECT_FALSE(m_store->enableFileAssociation());
+}

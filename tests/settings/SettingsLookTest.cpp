@@ -130,6 +130,7 @@ TEST_P(SettingsLookTest, EveryPageHasRoomForItsTexts)
     dialog.prepare();
     dialog.model().setValue(SettingTables::ProxyChoice, int(SettingTables::ManualProxy));
     dialog.show();
+    QApplication::setActiveWindow(&dialog);
     // The screen of the offscreen platform is small; what is looked at is the whole.
     dialog.resize(Look::px(880), Look::px(704));
     for (int page = 0; page < SettingsPageCount; ++page) {

@@ -5,7 +5,6 @@
 #include "core/SettingsKeys.h"
 #include "settings/SettingsModel.h"
 #include "support/Eventually.h"
-#include "support/TestLog.h"
 
 #include <gtest/gtest.h>
 
@@ -350,14 +349,4 @@ TEST_F(SettingsModelTest, BothKeyMapsAreStored)
     const CommonInfoManager stored(*m_store);
     EXPECT_EQ(stored.getPcKeyMap().value(KeyOperate_OpenFile), int(Qt::Key_F9));
     EXPECT_EQ(stored.getTvKeyMap().value(KeyOperate_Return), int(Qt::Key_Backspace));
-}
-
-TEST_F(SettingsModelTest, SavingTellsTheAudioValues)
-{
-    SettingsModel model(*m_store, m_host);
-    model.load();
-    model.setValue(SettingsKeys::PC_VolumeAmplification, 12);
-    (void)model.save();
-    EXPECT_TRUE(
-        TestLog::infoLines().join('\n').contains(QStringLiteral("[PC Audio Save] VolumeAmplification:  12")));
 }

@@ -150,34 +150,35 @@ void FileAssociationList::save(SettingsManager &store)
     if (!m_isEnabled && !m_wasEnabled)
         return;
     m_wasEnabled = m_isEnabled;
-
-    const QStringList current = m_host.associatedExtensions();
-    QStringList add;
-    QStringList remove;
-    for (const QString &extension : wanted) {
-        if (!current.contains(extension))
-            add.append(extension);
-    }
-    for (const QString &extension : current) {
-        if (!wanted.contains(extension))
-            remove.append(extension);
-    }
-    qInfo().noquote() << "[FileAss] Current System List: " << current.join(Separator);
-    qInfo().noquote() << "[FileAss] Add List: " << add.join(Separator);
-    qInfo().noquote() << "[FileAss] Remove List: " << remove.join(Separator);
-    if (add.isEmpty() && remove.isEmpty())
-        return;
     const QPointer<FileAssociationList> self(this);
-    m_host.changeAssociations(add, remove, [self, &store, wasEnabled, before](bool isDone) {
-        if (isDone)
+    ISettingsHost &host = m_host;
+    m_host.readAssociations([self, &host, &store, wanted, wasEnabled, before](const QStringList &current) {
+        QStringList add;
+        QStringList remove;
+        for (const QString &extension : wanted) {
+            if (!current.contains(extension))
+                add.append(extension);
+        }
+        for (const QString &extension : current) {
+            if (!wanted.contains(extension))
+                remove.append(extension);
+        }
+        qInfo().noquote() << "[FileAss] Current System List: " << current.join(Separator);
+        qInfo().noquote() << "[FileAss] Add List: " << add.join(Separator);
+        qInfo().noquote() << "[FileAss] Remove List: " << remove.join(Separator);
+        if (add.isEmpty() && remove.isEmpty())
             return;
-        qInfo() << "[FileAss] the system has not taken the change";
-        store.setEnableFileAssociation(wasEnabled);
-        store.setFileAssociations(before);
-        if (!self)
-            return;
-        self->m_wasEnabled = wasEnabled;
-        self->setEnabled(wasEnabled);
-        emit self->refused();
+        host.changeAssociations(add, remove, [self, &store, wasEnabled, before](bool isDone) {
+            if (isDone)
+                return;
+            qInfo() << "[FileAss] the system has not taken the change";
+            store.setEnableFileAssociation(wasEnabled);
+            store.setFileAssociations(before);
+            if (!self)
+                return;
+            self->m_wasEnabled = wasEnabled;
+            self->setEnabled(wasEnabled);
+            emit self->refused();
+        });
     });
 }

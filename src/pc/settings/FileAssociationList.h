@@ -34,8 +34,8 @@ public:
 
     void load(const SettingsManager &store);
     void setDefault();
-    // Stores flag and list and has the system follow. A refusal puts both back in the store, which must still
-    // be there, and is told by refused().
+    // Stores flag and list and has the system follow, which may take longer than this call: store and host
+    // must still be there then. A refusal puts both back in the store and is told by refused().
     void save(SettingsManager &store);
 
     [[nodiscard]] static QString textOf(const QStringList &extensions);

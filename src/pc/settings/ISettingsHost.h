@@ -49,10 +49,10 @@ public:
 
     // The proxy that the system is set to; without a host there is none.
     [[nodiscard]] virtual SettingsProxy systemProxy() const { return {}; }
-    // Extensions, in lower case and without a point, that open with this program now.
-    [[nodiscard]] virtual QStringList associatedExtensions() const { return {}; }
-    // Changes them; done is called once, with false when the system or the user refused. It may be called
-    // before this returns.
+    // Finds the extensions, in lower case and without a point, that open with this program now. The answer is
+    // called once on the GUI thread, before this returns or later.
+    virtual void readAssociations(std::function<void(const QStringList &)> answer) { answer({}); }
+    // Changes them; done is called in the same way, with false when the system or the user refused.
     virtual void changeAssociations(const QStringList &add, const QStringList &remove,
                                     std::function<void(bool)> done)
     {

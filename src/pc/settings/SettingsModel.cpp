@@ -259,8 +259,6 @@ void SettingsModel::saveStep(SaveStep step, QStringList &written)
         if (each->row().step == step && each->save(m_store))
             written.append(each->key());
     }
-    if (step == SaveStep::Audio)
-        logAudio();
     if (step == SaveStep::FileAssociation) {
         m_associations->save(m_store);
         written << SettingsKeys::EnableFileAssociation << SettingsKeys::FileAssociation;
@@ -309,13 +307,6 @@ void SettingsModel::saveProxy(QStringList &written)
     }
     written << SettingsKeys::PC_ProxyType << SettingsKeys::PC_ProxyHost << SettingsKeys::PC_ProxyPort
             << SettingsKeys::PC_ProxyUserName << SettingsKeys::PC_ProxyPasswd;
-}
-
-void SettingsModel::logAudio() const
-{
-    qInfo() << "[PC Audio Save] SpeakerIndex: " << value(SettingsKeys::PC_Speaker).toInt();
-    qInfo() << "[PC Audio Save] VolumeAmplification: " << value(SettingsKeys::PC_VolumeAmplification).toInt();
-    qInfo() << "[PC Audio Save] AudioOffsize: " << value(SettingsKeys::PC_AudioOffset).toInt();
 }
 
 void SettingsModel::applyToEngine()

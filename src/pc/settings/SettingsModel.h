@@ -77,7 +77,6 @@ private:
     void saveStep(SaveStep step, QStringList &written);
     void saveProxy(QStringList &written);
     void saveHotKeys(QStringList &written);
-    void logAudio() const;
     void applyToEngine();
     void checkNetwork();
     void onFolderAnswered(int question, FolderProbe::Answer answer);

@@ -14,6 +14,10 @@ void RegistrySandbox::enter()
 
 void RegistrySandbox::leave()
 {
-    for (const auto &[name, value] : m_environmentBefore)
-        ::setenv(name.c_str(), value.c_str(), 1);
+    for (const auto &[name, value] : m_environmentBefore) {
+        if (value.empty())
+            ::unsetenv(name.c_str());
+        else
+            ::setenv(name.c_str(), value.c_str(), 1);
+    }
 }

@@ -12,6 +12,7 @@
 #include "ui/FocusRing.h"
 #include "ui/LookTokens.h"
 
+#include <QHBoxLayout>
 #include <QListView>
 #include <QPainter>
 #include <QStackedWidget>
@@ -29,6 +30,7 @@ constexpr int kRightMargin = 12;
 constexpr int kUnderTitle = 56;
 constexpr int kAboveBar = 140;
 constexpr int kBottomInset = 8;
+constexpr int kTileMargin = 8;
 constexpr int kFrame = 2;
 constexpr double kGroundOpacity = 0.96;
 
@@ -94,8 +96,11 @@ void NormalPlaylistView::makeParts()
     m_grid->setTabKeyNavigation(false);
     m_grid->setContextMenuPolicy(Qt::CustomContextMenu);
     m_grid->viewport()->setAutoFillBackground(false);
-    for (QWidget *page :
-         {static_cast<QWidget *>(m_list), static_cast<QWidget *>(m_grid), static_cast<QWidget *>(m_empty)})
+    auto *gridPage = new QWidget;
+    auto *gridRow = new QHBoxLayout(gridPage);
+    gridRow->setContentsMargins(Look::px(kTileMargin), 0, 0, 0);
+    gridRow->addWidget(m_grid);
+    for (QWidget *page : {static_cast<QWidget *>(m_list), gridPage, static_cast<QWidget *>(m_empty)})
         m_pages->addWidget(page);
 
     auto *column = new QVBoxLayout(m_card);
@@ -280,7 +285,8 @@ void NormalPlaylistView::resizeEvent(QResizeEvent *event)
 
 void NormalPlaylistView::placeTiles()
 {
-    const int wall = m_grid->viewport()->width() - 1;
+    // The layout of a wall goes by the widest that the viewport may become.
+    const int wall = qMin(m_grid->viewport()->width(), m_grid->maximumViewportSize().width()) - 1;
     const QSize tile = NormalPlaylistIconDelegate::tileFor(wall);
     m_iconDelegate->setTile(tile);
     if (m_grid->gridSize() != tile)
@@ -355,7 +361,7 @@ void NormalPlaylistView::setGrid(bool isGrid)
 void NormalPlaylistView::showPage()
 {
     m_head->setCount(m_queue->count());
-    QWidget *page = viewInUse();
+    QWidget *page = isGrid() ? m_grid->parentWidget() : m_list;
     if (m_queue->count() == 0)
         page = m_empty;
     m_pages->setCurrentWidget(page);

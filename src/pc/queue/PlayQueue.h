@@ -56,6 +56,7 @@ public:
     // Looks at all of them anew and drops those that are gone as their drives answer.
     void removeInvalid();
     void checkPresence();
+    [[nodiscard]] bool isChecking() const { return m_checkTimer.isActive(); }
 
     void sortBy(int sortType);
     void moveRows(const QVector<int> &rows, int before);

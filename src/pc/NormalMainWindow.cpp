@@ -41,6 +41,7 @@
 #include "playcontrol/PlayFailure.h"
 #include "playcontrol/ScreenshotWriter.h"
 #include "player/DeferredSetup.h"
+#include "player/EnginePreferences.h"
 #include "player/workObject.h"
 #include "preview/SmartPreview.h"
 #include "queue/NormalPlaylistView.h"
@@ -365,7 +366,6 @@ void NormalMainWindow::retranslate()
 void NormalMainWindow::slot_configLater()
 {
     m_setUp->start();
-    m_settingsHost->refreshAssociations();
     m_overlays->playlist()->queue()->load();
     m_session->open();
     auto *statistics = PlayInfoStatisticsHelper::instance();
@@ -387,6 +387,11 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
         m_discs->refresh();
         if (DiscEventRule::isGone(int(type)))
             m_overlays->playlist()->slot_removeDiscList(QString(QLatin1Char(drive)));
+    });
+    connect(player, &QPlayer::sig_errorOccured, this, [this, player](VD_ErrorCallbackType type) {
+        // It would come back with each start.
+        if (type == libvp::VD_Error_ShaderInvalid)
+            EnginePreferences(m_settings, *player).applyShader({});
     });
     connect(player, &QPlayer::sig_shotScreen, this, &NormalMainWindow::slot_saveScreenShot);
     connect(player, &QPlayer::sig_videoSizeChanged, this, &NormalMainWindow::slot_fitVideoSize);
@@ -441,6 +446,9 @@ void NormalMainWindow::onSourceOpened(bool isVideo)
     m_stack->setCurrentWidget(isVideo ? static_cast<QWidget *>(m_playView) : m_audioView);
     m_overlays->setStaying(!isVideo);
     m_overlays->showOpened(m_control->currentPath(), m_control->isDisc());
+    // Its titles are chosen there.
+    if (m_control->isDisc())
+        m_overlays->playlist()->addSources({m_control->currentPath()});
     m_recent.add(m_control->displayName(), m_control->currentPath(),
                  RecentFiles::Type(m_control->sourceKind()));
     // A second reading of a disc would fight with the first for the laser.

@@ -126,6 +126,7 @@ void NormalMainWindow::contextMenuEvent(QContextMenuEvent *event)
 void NormalMainWindow::mousePressEvent(QMouseEvent *event)
 {
     passMouseToDisc(*event);
+    m_overlays->playlist()->setKeyboardUsed(false);
     m_isPressedOnPicture =
         event->button() == Qt::LeftButton && isPlayViewShown() && !isFullScreen() && !isMaximized();
     m_pressedAt = event->globalPos() - pos();

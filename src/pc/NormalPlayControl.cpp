@@ -11,6 +11,7 @@
 #include "playcontrol/ResumeRule.h"
 #include "playcontrol/StatisticName.h"
 #include "player/DeferredSetup.h"
+#include "player/PreferredLanguages.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -94,7 +95,13 @@ bool NormalPlayControl::play(const QString &path, int title)
     PlayInfoStatisticsHelper::instance()->note(QLatin1String(kStatistics), QStringLiteral("beginPlay"),
                                                QString::number(source.kind));
 
-    m_order = {m_currentPath, m_sourceKind, m_titleNumber, source.cueTitle, m_resumeSeconds};
+    m_order = {m_currentPath,
+               m_sourceKind,
+               m_titleNumber,
+               source.cueTitle,
+               m_resumeSeconds,
+               PreferredLanguages::ofSound(m_settings),
+               PreferredLanguages::ofSubtitles(m_settings)};
     // The window is changed while the source is being opened.
     m_setUp.start();
     m_playThread.start(QThread::InheritPriority);

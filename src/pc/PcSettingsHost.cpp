@@ -28,13 +28,6 @@ PcSettingsHost::~PcSettingsHost()
     m_worker->stop(kStopMs);
 }
 
-void PcSettingsHost::refreshAssociations()
-{
-    const auto found = std::make_shared<QStringList>();
-    m_worker->addTask([found] { *found = FileAssociation::associatedExtensions(); },
-                      [this, found] { m_associated = *found; });
-}
-
 QList<SettingsAudioDevice> PcSettingsHost::audioDevices() const
 {
     QList<SettingsAudioDevice> devices;
@@ -78,28 +71,19 @@ void PcSettingsHost::applyProxy()
         EnginePreferences(m_settings, *player).applyProxy();
 }
 
-QStringList PcSettingsHost::associatedExtensions() const
+void PcSettingsHost::readAssociations(std::function<void(const QStringList &)> answer)
 {
-    return m_associated;
+    const auto found = std::make_shared<QStringList>();
+    m_worker->addTask([found] { *found = FileAssociation::associatedExtensions(); },
+                      [found, answer = std::move(answer)] { answer(*found); });
 }
 
 void PcSettingsHost::changeAssociations(const QStringList &add, const QStringList &remove,
                                         std::function<void(bool)> done)
 {
-    struct Outcome {
-        bool isDone{false};
-        QStringList associated;
-    };
-    const auto outcome = std::make_shared<Outcome>();
-    m_worker->addTask(
-        [outcome, add, remove] {
-            outcome->isDone = FileAssociation::ChangeExtensions(add, remove);
-            outcome->associated = FileAssociation::associatedExtensions();
-        },
-        [this, outcome, done = std::move(done)] {
-            m_associated = outcome->associated;
-            done(outcome->isDone);
-        });
+    const auto isDone = std::make_shared<bool>(false);
+    m_worker->addTask([isDone, add, remove] { *isDone = FileAssociation::ChangeExtensions(add, remove); },
+                      [isDone, done = std::move(done)] { done(*isDone); });
 }
 
 void PcSettingsHost::openSystemSettings()

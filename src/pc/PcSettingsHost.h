@@ -1,7 +1,6 @@
 // What the settings dialog asks of the program: the engine, the desktop's file types, other programs.
 //
-// GUI thread. File types are read and changed on a worker; until it has answered, none counts as this
-// player's. Refers to the store, which outlives it.
+// GUI thread. File types are read and changed on a worker. Refers to the store, which outlives it.
 #pragma once
 
 #include "settings/ISettingsHost.h"
@@ -18,9 +17,6 @@ public:
     PcSettingsHost(SettingsManager &settings, std::function<QPlayer *()> player);
     ~PcSettingsHost() override;
 
-    // Reads anew which file types open with this program.
-    void refreshAssociations();
-
     [[nodiscard]] QList<SettingsAudioDevice> audioDevices() const override;
     void applyVideo() override;
     void applyAudio() override;
@@ -28,7 +24,7 @@ public:
     void applyRegion() override;
     void applyProxy() override;
 
-    [[nodiscard]] QStringList associatedExtensions() const override;
+    void readAssociations(std::function<void(const QStringList &)> answer) override;
     void changeAssociations(const QStringList &add, const QStringList &remove,
                             std::function<void(bool)> done) override;
     void openSystemSettings() override;
@@ -37,6 +33,5 @@ public:
 private:
     SettingsManager &m_settings;
     std::function<QPlayer *()> m_player;
-    QStringList m_associated;
     std::unique_ptr<ThreadWorker> m_worker;
 };

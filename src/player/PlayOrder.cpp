@@ -15,6 +15,7 @@ void open(QPlayer &player, const PlayOrder &order)
 {
     player.setSource(order.path);
     player.setSourceType(order.itemType);
+    player.setPreferredLanguages(order.audioLanguages, order.subtitleLanguages);
     player.setTitle(order.cueTitle >= 0 ? order.cueTitle : order.title);
     qInfo().noquote() << "[PlaySource]:" << order.path;
     if (order.title < 0)

@@ -11,6 +11,9 @@ struct PlayOrder {
     int title{-1};    // -1: the main title
     int cueTitle{-1}; // -1: no cue sheet
     int startSeconds{0};
+    // As QPlayer::setPreferredLanguages() takes them.
+    QString audioLanguages;
+    QString subtitleLanguages;
 };
 
 namespace PlayRunner {

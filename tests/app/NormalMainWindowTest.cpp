@@ -322,6 +322,7 @@ TEST_F(NormalMainWindowTest, DroppedFilesPlayOneAfterTheOther)
 {
     const QString first = makeFile("a.mkv");
     const QString second = makeFile("b.mkv");
+    SettingsManager::instance()->setValue(SettingsKeys::PC_PlaylistLoopType, 1); // one after the other
     open();
     drop({first, second});
     ASSERT_TRUE(QTest::qWaitFor([] { return openCount() == 1; }, 10000));

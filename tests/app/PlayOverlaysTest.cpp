@@ -303,9 +303,9 @@ TEST_F(PlayOverlaysTest, TheMenuOffersOnlyWhatCanBeDone)
             count += row.isEnabled ? 1 : 0;
         return count;
     };
-    EXPECT_EQ(enabledRows(), 2);
+    EXPECT_EQ(enabledRows(), 3);
     play(makeFile("film.mkv"));
-    EXPECT_EQ(enabledRows(), 5);
+    EXPECT_EQ(enabledRows(), 6);
 }
 
 } // namespace

@@ -136,6 +136,19 @@ TEST_F(PlayQueues, ASourceThatIsNoEntryEndsPlaybackToo)
     EXPECT_EQ(ends, 1);
 }
 
+TEST_F(PlayQueues, ASourceThatPlaysBeforeItsRowIsThereIsTheCurrentOneOnceItIs)
+{
+    setLoop(QueueOrder::Sequence);
+    queue->add({"/a.mkv", "/b.mkv"});
+    EXPECT_EQ(queue->beginSource("/a.mkv"), -1);
+    EXPECT_FALSE(queue->playNode().isValid());
+    ASSERT_EVENTUALLY(!queue->isAppending());
+    EXPECT_EQ(queue->playNode().row(), 0);
+    endOfSource();
+    EXPECT_EQ(ends, 0);
+    EXPECT_EQ(queue->playNode().row(), 1);
+}
+
 TEST_F(PlayQueues, SequenceAtTheLastRowEndsPlayback)
 {
     add({"/a.mkv", "/b.mkv"});

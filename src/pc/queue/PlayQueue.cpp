@@ -111,6 +111,7 @@ void PlayQueue::slot_appendSourceRow()
         const QStringList batch = group.paths.mid(group.next, kRowsAtOnce);
         group.next += batch.size();
         m_model.insert(batch, group.isAtEnd || !group.before.isValid() ? -1 : group.before.row());
+        takeAwaited();
         if (group.next < group.paths.size())
             continue;
         const QStringList paths = group.paths;
@@ -302,6 +303,15 @@ void PlayQueue::playRow(const QModelIndex &index)
     emit playSource(path, m_pendingTitle);
 }
 
+void PlayQueue::takeAwaited()
+{
+    const int row = m_awaited.isEmpty() ? -1 : m_model.rowOf(m_awaited);
+    if (row < 0)
+        return;
+    m_awaited.clear();
+    setPlayNode(m_model.index(row));
+}
+
 void PlayQueue::setPlayNode(QModelIndex index)
 {
     m_playNode = index;
@@ -315,6 +325,7 @@ int PlayQueue::beginSource(const QString &path)
     const int title = m_pendingTitle;
     m_pendingTitle = NoTitle;
     m_nodeBefore = QPersistentModelIndex();
+    m_awaited.clear();
     m_mark = Mark::None;
     const bool isAsked =
         m_playNode.isValid()
@@ -324,6 +335,7 @@ int PlayQueue::beginSource(const QString &path)
         return title;
     }
     const int row = m_store.contains(kept) ? m_model.rowOf(kept) : -1;
+    m_awaited = row < 0 && m_store.contains(kept) ? kept : QString();
     setPlayNode(row < 0 ? QModelIndex() : m_model.index(row));
     return NoTitle;
 }

@@ -111,6 +111,7 @@ private:
     };
 
     void append(Group group);
+    void takeAwaited();
     void dropRows(const QVector<int> &rows);
     void check(const QStringList &paths);
     void checkOn();
@@ -140,6 +141,8 @@ private:
 
     QPersistentModelIndex m_playNode;
     QPersistentModelIndex m_nodeBefore;
+    // The source that plays while its row is still to come.
+    QString m_awaited;
     Mark m_mark{Mark::None};
     int m_metaTitle{NoTitle};
     int m_pendingTitle{NoTitle};

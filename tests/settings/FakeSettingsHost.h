@@ -50,8 +50,8 @@ public:
     FakeSettingsHost()
     {
         known.programFolder = QStringLiteral("/opt/player");
-        known.picturesFolder = QStringLiteral("/home/someone/Pictures/Quorin Player 6");
-        known.logFolder = QStringLiteral("/home/someone/Documents/Quorin Player 6/Log");
+        known.picturesFolder = QStringLiteral("/nowhere/Pictures/Quorin Player 6");
+        known.logFolder = QStringLiteral("/nowhere/Documents/Quorin Player 6/Log");
     }
 
     SettingsFacts facts() const override { return known; }

@@ -249,6 +249,13 @@ TEST_F(NormalSettingPageTest, CtrlTabGoesThroughThePages)
     EXPECT_EQ(int(dialog().currentPage()), SettingsPageCount - 1);
 }
 
+TEST_F(NormalSettingPageTest, TheListHasTheKeyboardWhenItOpens)
+{
+    auto *list = dialog().findChild<QListWidget *>(QStringLiteral("settingsPages"));
+    EXPECT_EQ(dialog().focusWidget(), list);
+    ASSERT_EVENTUALLY(list->hasFocus());
+}
+
 TEST_F(NormalSettingPageTest, TabGoesFromTheListThroughThePageToTheButtons)
 {
     for (const auto id : {SettingsPageId::General, SettingsPageId::Network, SettingsPageId::Video}) {

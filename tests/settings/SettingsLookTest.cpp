@@ -8,6 +8,7 @@
 #include "settings/NormalSettingPage.h"
 #include "settings/RadioMark.h"
 #include "settings/SettingsPageWidget.h"
+#include "support/Eventually.h"
 #include "ui/LookTokens.h"
 
 #include <gtest/gtest.h>
@@ -131,6 +132,7 @@ TEST_P(SettingsLookTest, EveryPageHasRoomForItsTexts)
     dialog.model().setValue(SettingTables::ProxyChoice, int(SettingTables::ManualProxy));
     dialog.show();
     QApplication::setActiveWindow(&dialog);
+    ASSERT_EVENTUALLY(dialog.focusWidget() && dialog.focusWidget()->hasFocus());
     // The screen of the offscreen platform is small; what is looked at is the whole.
     dialog.resize(Look::px(880), Look::px(704));
     for (int page = 0; page < SettingsPageCount; ++page) {

@@ -49,7 +49,7 @@ void PageListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
             painter->setClipping(false);
         }
     }
-    if (isSelected && option.widget && option.widget->hasFocus()) {
+    if (isSelected && option.widget && option.widget->window()->focusWidget() == option.widget) {
         const double line = Look::px(2);
         painter->setPen(QPen(Look::color(Look::AccentHover), line));
         painter->drawRoundedRect(row.adjusted(line / 2, line / 2, -line / 2, -line / 2), corner, corner);

@@ -49,6 +49,32 @@
     </message>
 </context>
 <context>
+    <name>AudioPage</name>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1（未連接）</translation>
+    </message>
+    <message>
+        <source>No device</source>
+        <translation>無裝置</translation>
+    </message>
+</context>
+<context>
+    <name>Display3DPage</name>
+    <message>
+        <source>Oops! 3D playback support is only available on Windows 8/10 for now.</source>
+        <translation>抱歉！目前僅在 Windows 8/10 上支援 3D 播放。</translation>
+    </message>
+    <message>
+        <source>Oops! The selected device does not support this mode yet. Quorin Player 6 will revert to the previous setting.</source>
+        <translation>抱歉！所選裝置尚不支援此模式。Quorin Player 6 將恢復為之前的設定。</translation>
+    </message>
+    <message>
+        <source>Oops! There are multiple displays detected. To use HDMI 1.4 3D output, we suggest that you keep only one display.</source>
+        <translation>偵測到多個顯示器。若要使用 HDMI 1.4 3D 輸出，建議只保留一個顯示器。</translation>
+    </message>
+</context>
+<context>
     <name>DropRule</name>
     <message>
         <source>&quot;%1&quot; is not a file on this computer.</source>
@@ -131,11 +157,81 @@
     </message>
 </context>
 <context>
+    <name>FileAssociationList</name>
+    <message>
+        <source>Please write each extension as *.mkv and separate them by semicolons.</source>
+        <translation>請將每個副檔名寫成 *.mkv 的形式，並以分號分隔。</translation>
+    </message>
+    <message>
+        <source>Oops! This file extension is not supported yet.</source>
+        <translation>抱歉！尚不支援此副檔名。</translation>
+    </message>
+</context>
+<context>
+    <name>FolderEdit</name>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+</context>
+<context>
+    <name>FolderProbe</name>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>此資料夾不存在。</translation>
+    </message>
+    <message>
+        <source>This is not a folder.</source>
+        <translation>這不是資料夾。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>無法讀取此資料夾。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be written to.</source>
+        <translation>無法寫入此資料夾。</translation>
+    </message>
+    <message>
+        <source>This folder does not answer.</source>
+        <translation>此資料夾沒有回應。</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeysPage</name>
+    <message>
+        <source>Press Enter on a row and then the new key. Delete takes the key away.</source>
+        <translation>在一列上按 Enter，然後按新按鍵。Delete 清除按鍵。</translation>
+    </message>
+    <message>
+        <source>%1 was the key of &quot;%2&quot;, which has none now.</source>
+        <translation>%1 原為「%2」的按鍵，該操作現在沒有按鍵。</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEditWidget</name>
+    <message>
+        <source>New key</source>
+        <translation>新按鍵</translation>
+    </message>
+</context>
+<context>
     <name>LanguageManager</name>
     <message>
         <source>Language name of this translation</source>
         <extracomment>The name of the language that this translation is for, in that language.</extracomment>
         <translation>繁體中文</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryPage</name>
+    <message>
+        <source>Are you sure to clear and rebuild your library?</source>
+        <translation>確定要清除並重建媒體庫嗎？</translation>
+    </message>
+    <message>
+        <source>Rebuild</source>
+        <translation>重建</translation>
     </message>
 </context>
 <context>
@@ -278,6 +374,13 @@
     </message>
 </context>
 <context>
+    <name>NormalKeyConflictTipsDialog</name>
+    <message>
+        <source>The hotkey you just chose was previously used for another action. That one has been rendered useless.</source>
+        <translation>您剛選擇的快速鍵先前用於另一操作，該操作的快速鍵已失效。</translation>
+    </message>
+</context>
+<context>
     <name>NormalLastPositionLabel</name>
     <message>
         <source>Last playback at</source>
@@ -332,6 +435,10 @@
     <message>
         <source>About</source>
         <translation>關於</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>設定...</translation>
     </message>
 </context>
 <context>
@@ -395,6 +502,638 @@
     <message>
         <source>Normal Speed</source>
         <translation>正常速度</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaylistSwitch</name>
+    <message>
+        <source>Close the playlist</source>
+        <translation>關閉播放清單</translation>
+    </message>
+    <message>
+        <source>Open the playlist</source>
+        <translation>開啟播放清單</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaylistView</name>
+    <message>
+        <source>Playlist</source>
+        <translation>播放清單</translation>
+    </message>
+    <message>
+        <source>Media Files (%1)</source>
+        <translation>媒體檔案 (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有檔案 (*)</translation>
+    </message>
+    <message>
+        <source>AddFile...</source>
+        <translation>新增檔案...</translation>
+    </message>
+    <message>
+        <source>Add Folder...</source>
+        <translation>新增資料夾...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPreviewView</name>
+    <message>
+        <source>Smart Preview</source>
+        <translation>智慧預覽</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>縮放</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>數量</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>There are no preview pictures for this source.</source>
+        <translation>此來源沒有預覽圖片。</translation>
+    </message>
+</context>
+<context>
+    <name>NormalSettingPage</name>
+    <message>
+        <source>Files with these extensions open with Quorin Player 6 when they are double clicked.</source>
+        <translation>按兩下具有這些副檔名的檔案時將使用 Quorin Player 6 開啟。</translation>
+    </message>
+    <message>
+        <source>To change your default apps, go to Settings &gt; System &gt; Default apps.</source>
+        <translation>若要變更預設應用程式，請前往「設定」&gt;「系統」&gt;「預設應用程式」。</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>PC Mode</source>
+        <translation>PC 模式</translation>
+    </message>
+    <message>
+        <source>TV Mode</source>
+        <translation>TV 模式</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>全部重設</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>The media library is not available.</source>
+        <translation>媒體庫無法使用。</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音樂</translation>
+    </message>
+    <message>
+        <source>Update Library</source>
+        <translation>更新媒體庫</translation>
+    </message>
+    <message>
+        <source>Rebuild Library</source>
+        <translation>重建媒體庫</translation>
+    </message>
+    <message>
+        <source>Add New Directory</source>
+        <translation>新增目錄</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>The file associations were not changed.</source>
+        <translation>檔案關聯未變更。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>預設</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>媒體庫</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>視訊</translation>
+    </message>
+    <message>
+        <source>3D Display</source>
+        <translation>3D 顯示</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Blu-ray</source>
+        <translation>藍光</translation>
+    </message>
+    <message>
+        <source>File Association</source>
+        <translation>檔案關聯</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>截圖</translation>
+    </message>
+    <message>
+        <source>HotKeys</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>網路</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Same as UI language</source>
+        <translation>與介面語言相同</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Simple Mode</source>
+        <translation>簡易模式</translation>
+    </message>
+    <message>
+        <source>Menu Mode</source>
+        <translation>選單模式</translation>
+    </message>
+    <message>
+        <source>Always match to the original video size</source>
+        <translation>一律符合視訊原始大小</translation>
+    </message>
+    <message>
+        <source>Always remember the last choice</source>
+        <translation>一律記住上次的選擇</translation>
+    </message>
+    <message>
+        <source>UI Language</source>
+        <translation>介面語言</translation>
+    </message>
+    <message>
+        <source>Launch Mode</source>
+        <translation>啟動模式</translation>
+    </message>
+    <message>
+        <source>Ask me each time</source>
+        <translation>每次詢問</translation>
+    </message>
+    <message>
+        <source>Window size</source>
+        <translation>視窗大小</translation>
+    </message>
+    <message>
+        <source>Log Path</source>
+        <translation>記錄檔路徑</translation>
+    </message>
+    <message>
+        <source>Auto play when disc inserted</source>
+        <translation>插入光碟時自動播放</translation>
+    </message>
+    <message>
+        <source>Pause play when minimized</source>
+        <translation>最小化時暫停播放</translation>
+    </message>
+    <message>
+        <source>Remember the last playback position</source>
+        <translation>記住上次播放位置</translation>
+    </message>
+    <message>
+        <source>Disable Screensaver</source>
+        <translation>停用螢幕保護程式</translation>
+    </message>
+    <message>
+        <source>Allow multiple instances</source>
+        <translation>允許多個執行個體</translation>
+    </message>
+    <message>
+        <source>Check for new version automatically</source>
+        <translation>自動檢查新版本</translation>
+    </message>
+    <message>
+        <source>Show progress in taskbar</source>
+        <translation>在工作列顯示進度</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>光碟</translation>
+    </message>
+    <message>
+        <source>DVD Playback Mode</source>
+        <translation>DVD 播放模式</translation>
+    </message>
+    <message>
+        <source>UHD / Blu-ray Playback Mode</source>
+        <translation>UHD / 藍光播放模式</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Menu language</source>
+        <translation>選單語言</translation>
+    </message>
+    <message>
+        <source>Audio language</source>
+        <translation>音訊語言</translation>
+    </message>
+    <message>
+        <source>Subtitle language</source>
+        <translation>字幕語言</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Show tips for playback status</source>
+        <translation>顯示播放狀態提示</translation>
+    </message>
+    <message>
+        <source>Enable the library for adult contents</source>
+        <translation>啟用成人內容媒體庫</translation>
+    </message>
+    <message>
+        <source>Decoding</source>
+        <translation>解碼</translation>
+    </message>
+    <message>
+        <source>Enable Hardware Acceleration Decoding</source>
+        <translation>啟用硬體加速解碼</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Enable HDR</source>
+        <translation>啟用 HDR</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Force HDR-&gt;SDR</source>
+        <translation>強制 HDR-&gt;SDR</translation>
+    </message>
+    <message>
+        <source>Tone map</source>
+        <translation>色調對應</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>簡易</translation>
+    </message>
+    <message>
+        <source>Hable</source>
+        <translation>Hable</translation>
+    </message>
+    <message>
+        <source>Filmic</source>
+        <translation>Filmic</translation>
+    </message>
+    <message>
+        <source>Aces</source>
+        <translation>Aces</translation>
+    </message>
+    <message>
+        <source>Luminance Scale:</source>
+        <translation>亮度比例：</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>輸出</translation>
+    </message>
+    <message>
+        <source>Output Color Range </source>
+        <translation>輸出色彩範圍 </translation>
+    </message>
+    <message>
+        <source>Full Color Range (0-255)</source>
+        <translation>全色彩範圍 (0-255)</translation>
+    </message>
+    <message>
+        <source>Limited Color Range (16-235)</source>
+        <translation>有限色彩範圍 (16-235)</translation>
+    </message>
+    <message>
+        <source>Enable 3D Playback Engine (effective upon next playback)</source>
+        <translation>啟用 3D 播放引擎（下次播放時生效）</translation>
+    </message>
+    <message>
+        <source>Play 3D Media in 3D</source>
+        <translation>以 3D 播放 3D 媒體</translation>
+    </message>
+    <message>
+        <source>Convert 2D Media to 3D</source>
+        <translation>將 2D 媒體轉換為 3D</translation>
+    </message>
+    <message>
+        <source>3D Display Device</source>
+        <translation>3D 顯示裝置</translation>
+    </message>
+    <message>
+        <source>Anaglyph Red/Cyan Mode</source>
+        <translation>紅/青立體模式</translation>
+    </message>
+    <message>
+        <source>3D-Ready HDTV (Checkerboard)</source>
+        <translation>3D-Ready HDTV（棋盤格）</translation>
+    </message>
+    <message>
+        <source>Micro-polarizer LCD 3D (Row-interleaved)</source>
+        <translation>微偏振 LCD 3D（列交錯）</translation>
+    </message>
+    <message>
+        <source>HDMI 1.4 enabled 3D TV</source>
+        <translation>支援 HDMI 1.4 的 3D 電視</translation>
+    </message>
+    <message>
+        <source>Swap eye view</source>
+        <translation>交換左右眼視圖</translation>
+    </message>
+    <message>
+        <source>Left view first</source>
+        <translation>左視圖優先</translation>
+    </message>
+    <message>
+        <source>Right view first</source>
+        <translation>右視圖優先</translation>
+    </message>
+    <message>
+        <source>Output Mode</source>
+        <translation>輸出模式</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>類比</translation>
+    </message>
+    <message>
+        <source>Optical/Coax</source>
+        <translation>光纖/同軸</translation>
+    </message>
+    <message>
+        <source>HDMI</source>
+        <translation>HDMI</translation>
+    </message>
+    <message>
+        <source>DisplayPort</source>
+        <translation>DisplayPort</translation>
+    </message>
+    <message>
+        <source>Output Device</source>
+        <translation>輸出裝置</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>喇叭</translation>
+    </message>
+    <message>
+        <source>Passthrough</source>
+        <translation>直通</translation>
+    </message>
+    <message>
+        <source>Enable Audio Passthrough</source>
+        <translation>啟用音訊直通</translation>
+    </message>
+    <message>
+        <source>Dolby Digital(AC3) capable receiver</source>
+        <translation>支援 Dolby Digital(AC3) 的接收器</translation>
+    </message>
+    <message>
+        <source>DTS capable receiver</source>
+        <translation>支援 DTS 的接收器</translation>
+    </message>
+    <message>
+        <source>TrueHD/DTS-HD capable receiver</source>
+        <translation>支援 TrueHD/DTS-HD 的接收器</translation>
+    </message>
+    <message>
+        <source>Level and timing</source>
+        <translation>音量與時間</translation>
+    </message>
+    <message>
+        <source>Volume Amplification</source>
+        <translation>音量放大</translation>
+    </message>
+    <message>
+        <source>Audio Offset</source>
+        <translation>音訊偏移</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字型</translation>
+    </message>
+    <message>
+        <source>Charset</source>
+        <translation>字元集</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>頂部</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>顏色</translation>
+    </message>
+    <message>
+        <source>OutLine Color</source>
+        <translation>外框顏色</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>粗體</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜體</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>外框</translation>
+    </message>
+    <message>
+        <source>Override Ass/SSA subtitles config</source>
+        <translation>覆寫 Ass/SSA 字幕設定</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路徑</translation>
+    </message>
+    <message>
+        <source>Subtitle Offset</source>
+        <translation>字幕偏移</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>區域</translation>
+    </message>
+    <message>
+        <source>Region A</source>
+        <translation>區域 A</translation>
+    </message>
+    <message>
+        <source>Region B</source>
+        <translation>區域 B</translation>
+    </message>
+    <message>
+        <source>Region C</source>
+        <translation>區域 C</translation>
+    </message>
+    <message>
+        <source>Enable Blu-ray 3D playback when in Simple Mode</source>
+        <translation>在簡易模式下啟用藍光 3D 播放</translation>
+    </message>
+    <message>
+        <source>Skip FBI warnings</source>
+        <translation>略過 FBI 警告</translation>
+    </message>
+    <message>
+        <source>Jump to Blu-ray menu directly</source>
+        <translation>直接跳到藍光選單</translation>
+    </message>
+    <message>
+        <source>Set File Associations</source>
+        <translation>設定檔案關聯</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>Save to clipboard simultaneously(you can paste it directly)</source>
+        <translation>同時儲存到剪貼簿（可直接貼上）</translation>
+    </message>
+    <message>
+        <source>Use IE proxy</source>
+        <translation>使用 IE Proxy</translation>
+    </message>
+    <message>
+        <source>Use the system&apos;s proxy</source>
+        <translation>使用系統 Proxy</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Do not use proxy</source>
+        <translation>不使用 Proxy</translation>
+    </message>
+    <message>
+        <source>Use manual proxy</source>
+        <translation>使用手動 Proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>主機</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>連接埠</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>使用者名稱</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密碼</translation>
+    </message>
+    <message>
+        <source>Analyze Hardware</source>
+        <translation>分析硬體</translation>
     </message>
 </context>
 <context>
@@ -580,6 +1319,208 @@
     <message>
         <source>This source ended with an error while it played.</source>
         <translation>播放此來源時發生錯誤並中止。</translation>
+    </message>
+</context>
+<context>
+    <name>PlayMenu</name>
+    <message>
+        <source>Open Media...</source>
+        <translation>開啟媒體...</translation>
+    </message>
+    <message>
+        <source>Open Disc</source>
+        <translation>開啟光碟</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>章節</translation>
+    </message>
+    <message>
+        <source>Top Menu</source>
+        <translation>主選單</translation>
+    </message>
+    <message>
+        <source>Pop Menu</source>
+        <translation>彈出選單</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>視訊</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Shaders</source>
+        <translation>著色器</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全螢幕</translation>
+    </message>
+    <message>
+        <source>Always on Top</source>
+        <translation>總在最上層</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>資訊</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>長寬比</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>去交錯</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋轉</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation>視訊控制...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation>色彩調整...</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>擷取畫面</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>預設</translation>
+    </message>
+    <message>
+        <source>Fit Window</source>
+        <translation>符合視窗</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Rotate 90 degree CW</source>
+        <translation>順時針旋轉 90 度</translation>
+    </message>
+    <message>
+        <source>Rotate 90 degree CCW</source>
+        <translation>逆時針旋轉 90 度</translation>
+    </message>
+    <message>
+        <source>Rotate 180 degree</source>
+        <translation>旋轉 180 度</translation>
+    </message>
+    <message>
+        <source>Flip Vertically</source>
+        <translation>垂直翻轉</translation>
+    </message>
+    <message>
+        <source>Flip Horizontally</source>
+        <translation>水平翻轉</translation>
+    </message>
+    <message>
+        <source>Cycle Through Audio Track</source>
+        <translation>循環切換音軌</translation>
+    </message>
+    <message>
+        <source>Cycle Through Subtitle Track</source>
+        <translation>循環切換字幕</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation>載入字幕...</translation>
+    </message>
+    <message>
+        <source>Subtitle Setting...</source>
+        <translation>字幕設定...</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Previous Chapter</source>
+        <translation>上一章節</translation>
+    </message>
+    <message>
+        <source>Next Chapter</source>
+        <translation>下一章節</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>倒轉</translation>
+    </message>
+    <message>
+        <source>Fast Forward</source>
+        <translation>快轉</translation>
+    </message>
+    <message>
+        <source>Normal Speed</source>
+        <translation>正常速度</translation>
+    </message>
+    <message>
+        <source>10 Sec. Backward</source>
+        <translation>後退 10 秒</translation>
+    </message>
+    <message>
+        <source>10 Sec. Forward</source>
+        <translation>前進 10 秒</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation>章節 %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
+    <name>PlayQueueModel</name>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source> (Main)</source>
+        <translation>（主標題）</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>找不到</translation>
     </message>
 </context>
 <context>
@@ -769,6 +1710,102 @@
     </message>
 </context>
 <context>
+    <name>QueueDelegate</name>
+    <message>
+        <source>Not found</source>
+        <translation>找不到</translation>
+    </message>
+</context>
+<context>
+    <name>QueueEmptyPage</name>
+    <message>
+        <source>The playlist is empty.</source>
+        <translation>播放清單是空的。</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or add them with a right click.</source>
+        <translation>將檔案或資料夾拖放到此處，或按右鍵新增。</translation>
+    </message>
+</context>
+<context>
+    <name>QueueHead</name>
+    <message>
+        <source>Playlist</source>
+        <translation>播放清單</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>圖示</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>選項</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>QueueMenus</name>
+    <message>
+        <source>AddFile...</source>
+        <translation>新增檔案...</translation>
+    </message>
+    <message>
+        <source>Add Folder...</source>
+        <translation>新增資料夾...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Remove Invalid</source>
+        <translation>移除無效項目</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>全部移除</translation>
+    </message>
+    <message>
+        <source>Open Containing Folder</source>
+        <translation>開啟所在資料夾</translation>
+    </message>
+    <message>
+        <source>Sort by Name</source>
+        <translation>依名稱排序</translation>
+    </message>
+    <message>
+        <source>Sort by Type</source>
+        <translation>依類型排序</translation>
+    </message>
+    <message>
+        <source>Once</source>
+        <translation>播放一次</translation>
+    </message>
+    <message>
+        <source>Sequence</source>
+        <translation>循序播放</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>隨機播放</translation>
+    </message>
+    <message>
+        <source>Repeat One</source>
+        <translation>單一循環</translation>
+    </message>
+    <message>
+        <source>Repeat All</source>
+        <translation>全部循環</translation>
+    </message>
+</context>
+<context>
     <name>RecentCard</name>
     <message>
         <source>Not found</source>
@@ -800,6 +1837,110 @@
     <message>
         <source>The snapshot could not be saved in the folder &quot;%1&quot;.</source>
         <translation>無法將擷圖儲存至資料夾「%1」。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRowWidget</name>
+    <message>
+        <source>Default</source>
+        <translation>預設</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Please enter the address of the proxy.</source>
+        <translation>請輸入 Proxy 位址。</translation>
+    </message>
+    <message>
+        <source>Please enter the address alone, as proxy.example.org or 192.168.0.1.</source>
+        <translation>請僅輸入位址，例如 proxy.example.org 或 192.168.0.1。</translation>
+    </message>
+    <message>
+        <source>The port is a number from 1 to 65535.</source>
+        <translation>連接埠是 1 到 65535 之間的數字。</translation>
+    </message>
+</context>
+<context>
+    <name>SmartPreview</name>
+    <message>
+        <source>The Smart Preview feature on DVDs and Blu-rays is coming soon!</source>
+        <translation>DVD 與藍光光碟的智慧預覽功能即將推出！</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleCharsets</name>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-8)</source>
+        <translation>Unicode (UTF-8)</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-16)</source>
+        <translation>Unicode (UTF-16)</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>西歐</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>中歐</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>波羅的海</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>西里爾文</translation>
+    </message>
+    <message>
+        <source>Cyrillic (KOI8-R)</source>
+        <translation>西里爾文 (KOI8-R)</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>希臘文</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>土耳其文</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>希伯來文</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>阿拉伯文</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>越南文</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>泰文</translation>
+    </message>
+    <message>
+        <source>Chinese Simplified</source>
+        <translation>簡體中文</translation>
+    </message>
+    <message>
+        <source>Chinese Traditional</source>
+        <translation>繁體中文</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日文</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韓文</translation>
     </message>
 </context>
 <context>
@@ -865,6 +2006,13 @@
     <message>
         <source>Open a film with the player to watch it here.</source>
         <translation>用播放器開啟影片即可在此觀看。</translation>
+    </message>
+</context>
+<context>
+    <name>VideoPage</name>
+    <message>
+        <source>The analysis could not be started.</source>
+        <translation>無法啟動分析。</translation>
     </message>
 </context>
 </TS>

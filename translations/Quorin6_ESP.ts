@@ -49,6 +49,32 @@
     </message>
 </context>
 <context>
+    <name>AudioPage</name>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (no conectado)</translation>
+    </message>
+    <message>
+        <source>No device</source>
+        <translation>Ningún dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>Display3DPage</name>
+    <message>
+        <source>Oops! 3D playback support is only available on Windows 8/10 for now.</source>
+        <translation>¡Vaya! Por ahora, la reproducción 3D solo está disponible en Windows 8/10.</translation>
+    </message>
+    <message>
+        <source>Oops! The selected device does not support this mode yet. Quorin Player 6 will revert to the previous setting.</source>
+        <translation>El dispositivo seleccionado aún no admite este modo. Quorin Player 6 volverá al ajuste anterior.</translation>
+    </message>
+    <message>
+        <source>Oops! There are multiple displays detected. To use HDMI 1.4 3D output, we suggest that you keep only one display.</source>
+        <translation>Se han detectado varias pantallas. Para usar la salida 3D HDMI 1.4 le recomendamos dejar solo una.</translation>
+    </message>
+</context>
+<context>
     <name>DropRule</name>
     <message>
         <source>&quot;%1&quot; is not a file on this computer.</source>
@@ -131,11 +157,81 @@
     </message>
 </context>
 <context>
+    <name>FileAssociationList</name>
+    <message>
+        <source>Please write each extension as *.mkv and separate them by semicolons.</source>
+        <translation>Escriba cada extensión como *.mkv y sepárelas con punto y coma.</translation>
+    </message>
+    <message>
+        <source>Oops! This file extension is not supported yet.</source>
+        <translation>Esta extensión de archivo aún no es compatible.</translation>
+    </message>
+</context>
+<context>
+    <name>FolderEdit</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+</context>
+<context>
+    <name>FolderProbe</name>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Esta carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>This is not a folder.</source>
+        <translation>Esto no es una carpeta.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read.</source>
+        <translation>No se puede leer esta carpeta.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be written to.</source>
+        <translation>No se puede escribir en esta carpeta.</translation>
+    </message>
+    <message>
+        <source>This folder does not answer.</source>
+        <translation>Esta carpeta no responde.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeysPage</name>
+    <message>
+        <source>Press Enter on a row and then the new key. Delete takes the key away.</source>
+        <translation>Pulse Intro en una fila y después la tecla nueva. Supr quita la tecla.</translation>
+    </message>
+    <message>
+        <source>%1 was the key of &quot;%2&quot;, which has none now.</source>
+        <translation>%1 era la tecla de &quot;%2&quot;, que ahora no tiene ninguna.</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEditWidget</name>
+    <message>
+        <source>New key</source>
+        <translation>Tecla nueva</translation>
+    </message>
+</context>
+<context>
     <name>LanguageManager</name>
     <message>
         <source>Language name of this translation</source>
         <extracomment>The name of the language that this translation is for, in that language.</extracomment>
         <translation>Español</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryPage</name>
+    <message>
+        <source>Are you sure to clear and rebuild your library?</source>
+        <translation>¿Seguro que desea vaciar y reconstruir la biblioteca?</translation>
+    </message>
+    <message>
+        <source>Rebuild</source>
+        <translation>Reconstruir</translation>
     </message>
 </context>
 <context>
@@ -278,6 +374,13 @@
     </message>
 </context>
 <context>
+    <name>NormalKeyConflictTipsDialog</name>
+    <message>
+        <source>The hotkey you just chose was previously used for another action. That one has been rendered useless.</source>
+        <translation>La tecla elegida se usaba para otra acción, que se ha quedado sin tecla.</translation>
+    </message>
+</context>
+<context>
     <name>NormalLastPositionLabel</name>
     <message>
         <source>Last playback at</source>
@@ -332,6 +435,10 @@
     <message>
         <source>About</source>
         <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>Ajustes...</translation>
     </message>
 </context>
 <context>
@@ -395,6 +502,638 @@
     <message>
         <source>Normal Speed</source>
         <translation>Velocidad normal</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaylistSwitch</name>
+    <message>
+        <source>Close the playlist</source>
+        <translation>Cerrar la lista de reproducción</translation>
+    </message>
+    <message>
+        <source>Open the playlist</source>
+        <translation>Abrir la lista de reproducción</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPlaylistView</name>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reproducción</translation>
+    </message>
+    <message>
+        <source>Media Files (%1)</source>
+        <translation>Archivos multimedia (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>AddFile...</source>
+        <translation>Añadir archivo...</translation>
+    </message>
+    <message>
+        <source>Add Folder...</source>
+        <translation>Añadir carpeta...</translation>
+    </message>
+</context>
+<context>
+    <name>NormalPreviewView</name>
+    <message>
+        <source>Smart Preview</source>
+        <translation>Vista previa inteligente</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>There are no preview pictures for this source.</source>
+        <translation>No hay imágenes de vista previa para esta fuente.</translation>
+    </message>
+</context>
+<context>
+    <name>NormalSettingPage</name>
+    <message>
+        <source>Files with these extensions open with Quorin Player 6 when they are double clicked.</source>
+        <translation>Los archivos con estas extensiones se abren con Quorin Player 6 al hacer doble clic.</translation>
+    </message>
+    <message>
+        <source>To change your default apps, go to Settings &gt; System &gt; Default apps.</source>
+        <translation>Para cambiar sus aplicaciones predeterminadas, vaya a Configuración &gt; Sistema &gt; Aplicaciones predeterminadas.</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>Configuración del sistema</translation>
+    </message>
+    <message>
+        <source>PC Mode</source>
+        <translation>Modo PC</translation>
+    </message>
+    <message>
+        <source>TV Mode</source>
+        <translation>Modo TV</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Restablecer todo</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>The media library is not available.</source>
+        <translation>La biblioteca multimedia no está disponible.</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Update Library</source>
+        <translation>Actualizar la biblioteca</translation>
+    </message>
+    <message>
+        <source>Rebuild Library</source>
+        <translation>Reconstruir la biblioteca</translation>
+    </message>
+    <message>
+        <source>Add New Directory</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>The file associations were not changed.</source>
+        <translation>No se cambiaron las asociaciones de archivos.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Biblioteca</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>3D Display</source>
+        <translation>Visualización 3D</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulos</translation>
+    </message>
+    <message>
+        <source>Blu-ray</source>
+        <translation>Blu-ray</translation>
+    </message>
+    <message>
+        <source>File Association</source>
+        <translation>Asociación de archivos</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>HotKeys</source>
+        <translation>Teclas rápidas</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Same as UI language</source>
+        <translation>Igual que la interfaz</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Simple Mode</source>
+        <translation>Modo simple</translation>
+    </message>
+    <message>
+        <source>Menu Mode</source>
+        <translation>Modo de menú</translation>
+    </message>
+    <message>
+        <source>Always match to the original video size</source>
+        <translation>Ajustar siempre al tamaño original del vídeo</translation>
+    </message>
+    <message>
+        <source>Always remember the last choice</source>
+        <translation>Recordar siempre la última elección</translation>
+    </message>
+    <message>
+        <source>UI Language</source>
+        <translation>Idioma de la interfaz</translation>
+    </message>
+    <message>
+        <source>Launch Mode</source>
+        <translation>Modo de inicio</translation>
+    </message>
+    <message>
+        <source>Ask me each time</source>
+        <translation>Preguntar cada vez</translation>
+    </message>
+    <message>
+        <source>Window size</source>
+        <translation>Tamaño de la ventana</translation>
+    </message>
+    <message>
+        <source>Log Path</source>
+        <translation>Ruta del registro</translation>
+    </message>
+    <message>
+        <source>Auto play when disc inserted</source>
+        <translation>Reproducir automáticamente al insertar un disco</translation>
+    </message>
+    <message>
+        <source>Pause play when minimized</source>
+        <translation>Pausar al minimizar</translation>
+    </message>
+    <message>
+        <source>Remember the last playback position</source>
+        <translation>Recordar la última posición de reproducción</translation>
+    </message>
+    <message>
+        <source>Disable Screensaver</source>
+        <translation>Desactivar el salvapantallas</translation>
+    </message>
+    <message>
+        <source>Allow multiple instances</source>
+        <translation>Permitir varias instancias</translation>
+    </message>
+    <message>
+        <source>Check for new version automatically</source>
+        <translation>Buscar nuevas versiones automáticamente</translation>
+    </message>
+    <message>
+        <source>Show progress in taskbar</source>
+        <translation>Mostrar el progreso en la barra de tareas</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discos</translation>
+    </message>
+    <message>
+        <source>DVD Playback Mode</source>
+        <translation>Modo de reproducción de DVD</translation>
+    </message>
+    <message>
+        <source>UHD / Blu-ray Playback Mode</source>
+        <translation>Modo de reproducción de UHD / Blu-ray</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>Menu language</source>
+        <translation>Idioma del menú</translation>
+    </message>
+    <message>
+        <source>Audio language</source>
+        <translation>Idioma del audio</translation>
+    </message>
+    <message>
+        <source>Subtitle language</source>
+        <translation>Idioma de los subtítulos</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>Show tips for playback status</source>
+        <translation>Mostrar avisos del estado de reproducción</translation>
+    </message>
+    <message>
+        <source>Enable the library for adult contents</source>
+        <translation>Activar la biblioteca de contenido para adultos</translation>
+    </message>
+    <message>
+        <source>Decoding</source>
+        <translation>Decodificación</translation>
+    </message>
+    <message>
+        <source>Enable Hardware Acceleration Decoding</source>
+        <translation>Activar la decodificación por hardware</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Enable HDR</source>
+        <translation>Activar HDR</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Force HDR-&gt;SDR</source>
+        <translation>Forzar HDR-&gt;SDR</translation>
+    </message>
+    <message>
+        <source>Tone map</source>
+        <translation>Mapa de tonos</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>Simple</translation>
+    </message>
+    <message>
+        <source>Hable</source>
+        <translation>Hable</translation>
+    </message>
+    <message>
+        <source>Filmic</source>
+        <translation>Filmic</translation>
+    </message>
+    <message>
+        <source>Aces</source>
+        <translation>Aces</translation>
+    </message>
+    <message>
+        <source>Luminance Scale:</source>
+        <translation>Escala de luminancia:</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Output Color Range </source>
+        <translation>Rango de color de salida </translation>
+    </message>
+    <message>
+        <source>Full Color Range (0-255)</source>
+        <translation>Rango de color completo (0-255)</translation>
+    </message>
+    <message>
+        <source>Limited Color Range (16-235)</source>
+        <translation>Rango de color limitado (16-235)</translation>
+    </message>
+    <message>
+        <source>Enable 3D Playback Engine (effective upon next playback)</source>
+        <translation>Activar el motor de reproducción 3D (efectivo en la próxima reproducción)</translation>
+    </message>
+    <message>
+        <source>Play 3D Media in 3D</source>
+        <translation>Reproducir medios 3D en 3D</translation>
+    </message>
+    <message>
+        <source>Convert 2D Media to 3D</source>
+        <translation>Convertir medios 2D a 3D</translation>
+    </message>
+    <message>
+        <source>3D Display Device</source>
+        <translation>Dispositivo de visualización 3D</translation>
+    </message>
+    <message>
+        <source>Anaglyph Red/Cyan Mode</source>
+        <translation>Modo anaglifo rojo/cian</translation>
+    </message>
+    <message>
+        <source>3D-Ready HDTV (Checkerboard)</source>
+        <translation>HDTV 3D-Ready (tablero de ajedrez)</translation>
+    </message>
+    <message>
+        <source>Micro-polarizer LCD 3D (Row-interleaved)</source>
+        <translation>LCD 3D micropolarizado (filas entrelazadas)</translation>
+    </message>
+    <message>
+        <source>HDMI 1.4 enabled 3D TV</source>
+        <translation>TV 3D con HDMI 1.4</translation>
+    </message>
+    <message>
+        <source>Swap eye view</source>
+        <translation>Intercambiar vistas</translation>
+    </message>
+    <message>
+        <source>Left view first</source>
+        <translation>Vista izquierda primero</translation>
+    </message>
+    <message>
+        <source>Right view first</source>
+        <translation>Vista derecha primero</translation>
+    </message>
+    <message>
+        <source>Output Mode</source>
+        <translation>Modo de salida</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>Analógica</translation>
+    </message>
+    <message>
+        <source>Optical/Coax</source>
+        <translation>Óptica/coaxial</translation>
+    </message>
+    <message>
+        <source>HDMI</source>
+        <translation>HDMI</translation>
+    </message>
+    <message>
+        <source>DisplayPort</source>
+        <translation>DisplayPort</translation>
+    </message>
+    <message>
+        <source>Output Device</source>
+        <translation>Dispositivo de salida</translation>
+    </message>
+    <message>
+        <source>Speaker</source>
+        <translation>Altavoces</translation>
+    </message>
+    <message>
+        <source>Passthrough</source>
+        <translation>Passthrough</translation>
+    </message>
+    <message>
+        <source>Enable Audio Passthrough</source>
+        <translation>Activar el passthrough de audio</translation>
+    </message>
+    <message>
+        <source>Dolby Digital(AC3) capable receiver</source>
+        <translation>Receptor compatible con Dolby Digital(AC3)</translation>
+    </message>
+    <message>
+        <source>DTS capable receiver</source>
+        <translation>Receptor compatible con DTS</translation>
+    </message>
+    <message>
+        <source>TrueHD/DTS-HD capable receiver</source>
+        <translation>Receptor compatible con TrueHD/DTS-HD</translation>
+    </message>
+    <message>
+        <source>Level and timing</source>
+        <translation>Nivel y tiempo</translation>
+    </message>
+    <message>
+        <source>Volume Amplification</source>
+        <translation>Amplificación del volumen</translation>
+    </message>
+    <message>
+        <source>Audio Offset</source>
+        <translation>Desfase del audio</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Charset</source>
+        <translation>Juego de caracteres</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>OutLine Color</source>
+        <translation>Color del contorno</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Cursiva</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Contorno</translation>
+    </message>
+    <message>
+        <source>Override Ass/SSA subtitles config</source>
+        <translation>Anular la configuración de los subtítulos Ass/SSA</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>Subtitle Offset</source>
+        <translation>Desfase de los subtítulos</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Región</translation>
+    </message>
+    <message>
+        <source>Region A</source>
+        <translation>Región A</translation>
+    </message>
+    <message>
+        <source>Region B</source>
+        <translation>Región B</translation>
+    </message>
+    <message>
+        <source>Region C</source>
+        <translation>Región C</translation>
+    </message>
+    <message>
+        <source>Enable Blu-ray 3D playback when in Simple Mode</source>
+        <translation>Activar la reproducción de Blu-ray 3D en el modo simple</translation>
+    </message>
+    <message>
+        <source>Skip FBI warnings</source>
+        <translation>Omitir las advertencias del FBI</translation>
+    </message>
+    <message>
+        <source>Jump to Blu-ray menu directly</source>
+        <translation>Ir directamente al menú del Blu-ray</translation>
+    </message>
+    <message>
+        <source>Set File Associations</source>
+        <translation>Establecer asociaciones de archivos</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Save to clipboard simultaneously(you can paste it directly)</source>
+        <translation>Guardar también en el portapapeles (puede pegarla directamente)</translation>
+    </message>
+    <message>
+        <source>Use IE proxy</source>
+        <translation>Usar el proxy de IE</translation>
+    </message>
+    <message>
+        <source>Use the system&apos;s proxy</source>
+        <translation>Usar el proxy del sistema</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Do not use proxy</source>
+        <translation>No usar proxy</translation>
+    </message>
+    <message>
+        <source>Use manual proxy</source>
+        <translation>Usar un proxy manual</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Analyze Hardware</source>
+        <translation>Analizar el hardware</translation>
     </message>
 </context>
 <context>
@@ -580,6 +1319,208 @@
     <message>
         <source>This source ended with an error while it played.</source>
         <translation>Este origen terminó con un error durante la reproducción.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayMenu</name>
+    <message>
+        <source>Open Media...</source>
+        <translation>Abrir medio...</translation>
+    </message>
+    <message>
+        <source>Open Disc</source>
+        <translation>Abrir disco</translation>
+    </message>
+    <message>
+        <source>Chapter</source>
+        <translation>Capítulo</translation>
+    </message>
+    <message>
+        <source>Top Menu</source>
+        <translation>Menú principal</translation>
+    </message>
+    <message>
+        <source>Pop Menu</source>
+        <translation>Menú emergente</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulos</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Shaders</source>
+        <translation>Sombreadores</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Always on Top</source>
+        <translation>Siempre visible</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>Ajustes...</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Relación de aspecto</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>Desentrelazado</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Girar</translation>
+    </message>
+    <message>
+        <source>Video Control...</source>
+        <translation>Control de vídeo...</translation>
+    </message>
+    <message>
+        <source>Color Adjust...</source>
+        <translation>Ajuste de color...</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Capturar imagen</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Fit Window</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Rotate 90 degree CW</source>
+        <translation>Girar 90 grados a la derecha</translation>
+    </message>
+    <message>
+        <source>Rotate 90 degree CCW</source>
+        <translation>Girar 90 grados a la izquierda</translation>
+    </message>
+    <message>
+        <source>Rotate 180 degree</source>
+        <translation>Girar 180 grados</translation>
+    </message>
+    <message>
+        <source>Flip Vertically</source>
+        <translation>Voltear verticalmente</translation>
+    </message>
+    <message>
+        <source>Flip Horizontally</source>
+        <translation>Voltear horizontalmente</translation>
+    </message>
+    <message>
+        <source>Cycle Through Audio Track</source>
+        <translation>Siguiente pista de audio</translation>
+    </message>
+    <message>
+        <source>Cycle Through Subtitle Track</source>
+        <translation>Siguiente subtítulo</translation>
+    </message>
+    <message>
+        <source>Load Subtitle...</source>
+        <translation>Cargar subtítulos...</translation>
+    </message>
+    <message>
+        <source>Subtitle Setting...</source>
+        <translation>Ajustes de subtítulos...</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Previous Chapter</source>
+        <translation>Capítulo anterior</translation>
+    </message>
+    <message>
+        <source>Next Chapter</source>
+        <translation>Capítulo siguiente</translation>
+    </message>
+    <message>
+        <source>Rewind</source>
+        <translation>Rebobinar</translation>
+    </message>
+    <message>
+        <source>Fast Forward</source>
+        <translation>Avance rápido</translation>
+    </message>
+    <message>
+        <source>Normal Speed</source>
+        <translation>Velocidad normal</translation>
+    </message>
+    <message>
+        <source>10 Sec. Backward</source>
+        <translation>10 s atrás</translation>
+    </message>
+    <message>
+        <source>10 Sec. Forward</source>
+        <translation>10 s adelante</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation>Capítulo %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>PlayQueueModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source> (Main)</source>
+        <translation> (Principal)</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
     </message>
 </context>
 <context>
@@ -769,6 +1710,102 @@
     </message>
 </context>
 <context>
+    <name>QueueDelegate</name>
+    <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
+    </message>
+</context>
+<context>
+    <name>QueueEmptyPage</name>
+    <message>
+        <source>The playlist is empty.</source>
+        <translation>La lista de reproducción está vacía.</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or add them with a right click.</source>
+        <translation>Arrastre aquí archivos o carpetas, o añádalos con un clic derecho.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueHead</name>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reproducción</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Iconos</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>QueueMenus</name>
+    <message>
+        <source>AddFile...</source>
+        <translation>Añadir archivo...</translation>
+    </message>
+    <message>
+        <source>Add Folder...</source>
+        <translation>Añadir carpeta...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove Invalid</source>
+        <translation>Quitar no válidos</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Quitar todo</translation>
+    </message>
+    <message>
+        <source>Open Containing Folder</source>
+        <translation>Abrir la carpeta contenedora</translation>
+    </message>
+    <message>
+        <source>Sort by Name</source>
+        <translation>Ordenar por nombre</translation>
+    </message>
+    <message>
+        <source>Sort by Type</source>
+        <translation>Ordenar por tipo</translation>
+    </message>
+    <message>
+        <source>Once</source>
+        <translation>Una vez</translation>
+    </message>
+    <message>
+        <source>Sequence</source>
+        <translation>En orden</translation>
+    </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>Aleatorio</translation>
+    </message>
+    <message>
+        <source>Repeat One</source>
+        <translation>Repetir uno</translation>
+    </message>
+    <message>
+        <source>Repeat All</source>
+        <translation>Repetir todo</translation>
+    </message>
+</context>
+<context>
     <name>RecentCard</name>
     <message>
         <source>Not found</source>
@@ -800,6 +1837,110 @@
     <message>
         <source>The snapshot could not be saved in the folder &quot;%1&quot;.</source>
         <translation>No se pudo guardar la captura en la carpeta «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRowWidget</name>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Please enter the address of the proxy.</source>
+        <translation>Introduzca la dirección del proxy.</translation>
+    </message>
+    <message>
+        <source>Please enter the address alone, as proxy.example.org or 192.168.0.1.</source>
+        <translation>Introduzca solo la dirección, como proxy.example.org o 192.168.0.1.</translation>
+    </message>
+    <message>
+        <source>The port is a number from 1 to 65535.</source>
+        <translation>El puerto es un número del 1 al 65535.</translation>
+    </message>
+</context>
+<context>
+    <name>SmartPreview</name>
+    <message>
+        <source>The Smart Preview feature on DVDs and Blu-rays is coming soon!</source>
+        <translation>¡La vista previa inteligente de DVD y Blu-ray llegará pronto!</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleCharsets</name>
+    <message>
+        <source>Auto</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-8)</source>
+        <translation>Unicode (UTF-8)</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-16)</source>
+        <translation>Unicode (UTF-16)</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Europeo occidental</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Europeo central</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Báltico</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Cirílico</translation>
+    </message>
+    <message>
+        <source>Cyrillic (KOI8-R)</source>
+        <translation>Cirílico (KOI8-R)</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griego</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turco</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebreo</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Árabe</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamita</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Tailandés</translation>
+    </message>
+    <message>
+        <source>Chinese Simplified</source>
+        <translation>Chino simplificado</translation>
+    </message>
+    <message>
+        <source>Chinese Traditional</source>
+        <translation>Chino tradicional</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonés</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coreano</translation>
     </message>
 </context>
 <context>
@@ -865,6 +2006,13 @@
     <message>
         <source>Open a film with the player to watch it here.</source>
         <translation>Abra una película con el reproductor para verla aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>VideoPage</name>
+    <message>
+        <source>The analysis could not be started.</source>
+        <translation>No se pudo iniciar el análisis.</translation>
     </message>
 </context>
 </TS>

@@ -52,6 +52,20 @@ function(quorin_collect_sources result directory)
     set(${result} ${sources} PARENT_SCOPE)
 endfunction()
 
+# A header that joins a folder is not looked at for signals and slots by itself: the generator's mark is older than
+# nothing that it knows.
+function(quorin_refresh_moc target sources)
+    set(known "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt")
+    set(before "")
+    if(EXISTS "${known}")
+        file(READ "${known}" before)
+    endif()
+    if(NOT before STREQUAL "${sources}")
+        file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+        file(WRITE "${known}" "${sources}")
+    endif()
+endfunction()
+
 # quorin_layer(<folder of src/> LINK <targets...>) makes the static library quorin_<folder>.
 #
 # A layer's headers are included as "<folder>/Header.h", and that path exists only for those who link the
@@ -65,6 +79,7 @@ function(quorin_layer layer)
         return()
     endif()
     add_library(quorin_${layer} STATIC ${sources})
+    quorin_refresh_moc(quorin_${layer} "${sources}")
     quorin_include_root(quorin_${layer} ${layer} "${CMAKE_CURRENT_SOURCE_DIR}" PUBLIC)
     target_link_libraries(quorin_${layer} PUBLIC ${ARG_LINK})
     quorin_precompile(quorin_${layer})
@@ -93,6 +108,7 @@ function(quorin_test name)
     endif()
     quorin_collect_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
     add_executable(${name} ${sources})
+    quorin_refresh_moc(${name} "${sources}")
     target_link_libraries(${name} PRIVATE quorin_test_support ${ARG_LINK})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <memory> <string> <vector> <QtCore/QtCore>)

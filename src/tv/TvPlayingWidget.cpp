@@ -8,6 +8,7 @@
 #include "platform/ScreenSaver.h"
 #include "player/DeferredSetup.h"
 #include "player/PlaySourcePath.h"
+#include "player/PreferredLanguages.h"
 #include "player/workObject.h"
 #include "ui/VideoSurface.h"
 
@@ -154,7 +155,9 @@ void TvPlayingWidget::play(const QString &path)
         [](const QString &asked) { return MediaServerManager::instance()->playPath(asked); }, nullptr);
     const PlaySource source = paths.resolve(path);
     m_isPlayingHere = true;
-    m_thread->start({source.path, source.kind, -1, source.cueTitle, 0});
+    const SettingsManager &settings = *SettingsManager::instance();
+    m_thread->start({source.path, source.kind, -1, source.cueTitle, 0, PreferredLanguages::ofSound(settings),
+                     PreferredLanguages::ofSubtitles(settings)});
 }
 
 void TvPlayingWidget::SLOT_playStatusChanged(QPlayer::QPlayerStatus status)

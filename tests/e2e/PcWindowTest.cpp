@@ -4,6 +4,7 @@
 #include "ProgramRun.h"
 
 #include "core/SettingsKeys.h"
+#include "core/SettingsManager.h"
 #include "transport/SeekTrack.h"
 #include "transport/TransportLayout.h"
 
@@ -111,8 +112,8 @@ protected:
         return text.toStdString();
     }
 
-    // A file of a show, beside the others.
-    QString episode(const QString &name, QRgb color) const
+    // A film of a colour, beside the others.
+    QString file(const QString &name, QRgb color) const
     {
         const QString path = m_home.filePath(name);
         EXPECT_TRUE(QFile::copy(Clips::ofColor(QStringLiteral("episode.mkv"), color, kEpisodeSeconds), path));
@@ -264,10 +265,67 @@ TEST_F(PcWindowTest, TheMenuOfTheRightButtonActs)
     m_window->key("Up");
     m_window->key("Up");
     m_window->key("Return");
-    EXPECT_TRUE(eventually([this] { return !m_window->overlay({180, 100}, {560, 300}).isNull(); }))
-        << "no information; " << seen();
-    EXPECT_TRUE(
-        eventually([this] { return m_home.readSetting(QLatin1String(SettingsKeys::PC_ShowMeta)) == "true"; }));
+    EXPECT_TRUE(eventually([this] {
+        return !m_window->overlay({180, 100}, {560, 300}).isNull();
+    })) << "no information; "
+        << seen();
+    EXPECT_TRUE(eventually(
+        [this] { return m_home.readSetting(QLatin1String(SettingsKeys::PC_ShowMeta)) == "true"; }));
+}
+
+TEST_F(PcWindowTest, ThePlaylistOpensFromTheBarAndGoesOnAtTheEndOfASource)
+{
+    const QString first = file("first film.mkv", kBlue);
+    const QString second = file("second film.mkv", kGreen);
+    {
+        SettingsManager store(m_home.configurationFile());
+        store.setValue(QLatin1String(SettingsKeys::PC_Playlist), QVariantMap{{first, {}}, {second, {}}});
+        store.setValue(QLatin1String(SettingsKeys::PC_PlaylistLoopType), 1);
+        store.sync();
+    }
+    start({first});
+    ASSERT_TRUE(m_window->waitForTitle("first film.mkv - " + kTitle));
+    ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));
+    const auto panel = [this] { return m_window->overlay({280, 300}, {480, 700}); };
+    EXPECT_TRUE(panel().isNull());
+    m_window->click(onButton(shownBar(), TransportPlace::Playlist));
+    EXPECT_TRUE(eventually([&] { return !panel().isNull(); })) << seen();
+    m_window->click(onButton(shownBar(), TransportPlace::Playlist));
+    EXPECT_TRUE(eventually([&] { return panel().isNull(); })) << seen();
+
+    m_session.goTo(kEpisodeSeconds - 3);
+    ASSERT_TRUE(m_window->waitForTitle("second film.mkv - " + kTitle));
+    EXPECT_TRUE(Desktop::waitForMiddleColor(kGreen, kColorTolerance));
+}
+
+TEST_F(PcWindowTest, TheStripOfPicturesIsWalkedByKeysAndJumps)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlaying());
+    m_session.goTo(100);
+    ASSERT_TRUE(waitForSeconds(100));
+    m_window->key("F6");
+    const auto strip = [this] { return m_window->overlay({500, 120}, {1100, 320}); };
+    ASSERT_TRUE(eventually([&] { return !strip().isNull(); })) << seen();
+    // A key that the strip has not taken would seek by ten seconds.
+    m_window->key("Home");
+    m_window->key("Return");
+    EXPECT_TRUE(eventually([this] { return m_session.seconds() < 20; })) << m_session.seconds();
+    m_window->key("Escape");
+    EXPECT_TRUE(eventually([&] { return strip().isNull(); })) << seen();
+}
+
+TEST_F(PcWindowTest, TheSettingsOpenByKeyAndAreStoredAtOk)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlaying());
+    const auto dialogs = [this] { return Desktop::visibleWindows(m_run->id(), ".*"); };
+    const int before = dialogs();
+    m_window->key("F5");
+    ASSERT_TRUE(eventually([&] { return dialogs() > before; })) << dialogs();
+    Desktop::sendKey(Desktop::activeWindow(), "Return");
+    EXPECT_TRUE(eventually([&] { return dialogs() == before; })) << dialogs() << " of " << before;
+    EXPECT_TRUE(eventually(
+        [this] { return !m_home.readSetting(QLatin1String(SettingsKeys::PC_SnapShotType)).isEmpty(); }));
+    EXPECT_EQ(m_session.status(), "Playing");
 }
 
 TEST_F(PcWindowTest, ThePictureOfTheMomentGoesIntoTheConfiguredFolder)
@@ -321,8 +379,8 @@ TEST_F(PcWindowTest, AfterAStopTheNoteBringsThePositionBack)
 
 TEST_F(PcWindowTest, TheNextEpisodeIsOfferedInTheLastHalfMinuteAndPlaysAtAClick)
 {
-    const QString first = episode("road S01E01.mkv", kBlue);
-    episode("road S01E02.mkv", kGreen);
+    const QString first = file("road S01E01.mkv", kBlue);
+    file("road S01E02.mkv", kGreen);
     start({first});
     ASSERT_TRUE(m_window->waitForTitle("road S01E01.mkv - " + kTitle));
     ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));
@@ -345,8 +403,8 @@ TEST_F(PcWindowTest, TheNextEpisodeIsOfferedInTheLastHalfMinuteAndPlaysAtAClick)
 
 TEST_F(PcWindowTest, TheNextEpisodePlaysByItselfAtTheEnd)
 {
-    const QString first = episode("road S01E01.mkv", kBlue);
-    episode("road S01E02.mkv", kGreen);
+    const QString first = file("road S01E01.mkv", kBlue);
+    file("road S01E02.mkv", kGreen);
     start({first});
     ASSERT_TRUE(m_window->waitForTitle("road S01E01.mkv - " + kTitle));
     ASSERT_TRUE(eventually([this] { return m_session.lengthSeconds() > kEpisodeSeconds - 1; }));

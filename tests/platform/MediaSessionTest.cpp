@@ -142,6 +142,8 @@ TEST_F(MediaSessionTest, ChangesAreAnnounced)
     ASSERT_TRUE(s_client->connect(Service, Path, Properties, "PropertiesChanged", &receiver,
                                   SLOT(onChanged(QString, QVariantMap, QStringList))));
     ASSERT_TRUE(s_client->connect(Service, Path, Player, "Seeked", &receiver, SLOT(onSeeked(qlonglong))));
+    // Once this is answered the bus has taken what the client wants to hear.
+    EXPECT_FALSE(property("PlaybackStatus").toString().isEmpty());
     session.setState(MediaSession::State::Paused);
     session.setVolume(0.5);
     session.announceSeek(2000);

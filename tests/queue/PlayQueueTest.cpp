@@ -149,6 +149,18 @@ TEST_F(PlayQueues, ASourceThatPlaysBeforeItsRowIsThereIsTheCurrentOneOnceItIs)
     EXPECT_EQ(queue->playNode().row(), 1);
 }
 
+TEST_F(PlayQueues, ASourceThatPlaysBeforeTheStoredQueueIsReadIsTheCurrentOneOnceItIs)
+{
+    add({"/a.mkv", "/b.mkv"});
+    setLoop(QueueOrder::Sequence);
+    queue->save();
+    make();
+    EXPECT_EQ(queue->beginSource("/a.mkv"), -1);
+    queue->load();
+    ASSERT_EVENTUALLY(!queue->isAppending() && queue->model()->sourceCount() == 2);
+    EXPECT_EQ(queue->playNode().row(), 0);
+}
+
 TEST_F(PlayQueues, SequenceAtTheLastRowEndsPlayback)
 {
     add({"/a.mkv", "/b.mkv"});

@@ -74,6 +74,8 @@ void PlayQueue::load()
 {
     Group group;
     group.paths = m_store.load();
+    if (!m_begun.isEmpty() && m_store.contains(m_begun))
+        m_awaited = m_begun;
     append(std::move(group));
 }
 
@@ -325,6 +327,7 @@ int PlayQueue::beginSource(const QString &path)
     const int title = m_pendingTitle;
     m_pendingTitle = NoTitle;
     m_nodeBefore = QPersistentModelIndex();
+    m_begun = kept;
     m_awaited.clear();
     m_mark = Mark::None;
     const bool isAsked =

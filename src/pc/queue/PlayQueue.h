@@ -141,7 +141,8 @@ private:
 
     QPersistentModelIndex m_playNode;
     QPersistentModelIndex m_nodeBefore;
-    // The source that plays while its row is still to come.
+    // What plays, whether it is an entry or not, and the same while its row is still to come.
+    QString m_begun;
     QString m_awaited;
     Mark m_mark{Mark::None};
     int m_metaTitle{NoTitle};

@@ -11,6 +11,9 @@
 
 namespace {
 
+// The system's name of IMultiLanguage2, which the import libraries lack.
+constexpr IID kMultiLanguage2{0xdccfc164, 0x2b38, 0x11d2, {0xb7, 0xec, 0x00, 0xc0, 0x4f, 0x8f, 0x5d, 0x9a}};
+
 // Enough for the detection, and no end of waiting for a large file.
 constexpr std::size_t sampleSize = 64 << 10;
 
@@ -46,7 +49,7 @@ int guess(const std::string &bytes)
 {
     const ComScope com;
     IMultiLanguage2 *languages = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_CMultiLanguage, nullptr, CLSCTX_INPROC_SERVER, IID_IMultiLanguage2,
+    if (FAILED(CoCreateInstance(CLSID_CMultiLanguage, nullptr, CLSCTX_INPROC_SERVER, kMultiLanguage2,
                                 reinterpret_cast<void **>(&languages))))
         return 0;
     std::string sample = bytes.substr(0, sampleSize);

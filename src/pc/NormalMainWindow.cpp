@@ -7,13 +7,10 @@
 #include "PcKeyActions.h"
 #include "PcMediaSession.h"
 #include "PcSettingsHost.h"
-#include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalMessageBoxFactory.h"
 #include "dialogs/PcDialogs.h"
 #include "menus/OpticalDiscs.h"
-#include "menus/PlayMenu.h"
 #include "overlays/NormalLastPositionLabel.h"
-#include "overlays/NormalMetaView.h"
 #include "overlays/NormalTitleBar.h"
 #include "overlays/NormalTopBar.h"
 #include "overlays/NormalTvshowAutoPlayLabel.h"
@@ -24,28 +21,22 @@
 #include "transport/VolumeControl.h"
 
 #include "core/ApplicationInfoManager.h"
-#include "core/CommonInfoManager.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 #include "keys/AppEventFilter.h"
 #include "library/MediaServerManager.h"
 #include "online/AdvertismentManagerEx.h"
-#include "online/PlayInfoStatisticsHelper.h"
 #include "platform/DriveLetters.h"
 #include "platform/ScreenSaver.h"
 #include "playcontrol/DiscEventRule.h"
 #include "playcontrol/DropReader.h"
-#include "playcontrol/ErrorNote.h"
 #include "playcontrol/FolderEpisodes.h"
-#include "playcontrol/MenuCase.h"
-#include "playcontrol/PlayFailure.h"
 #include "playcontrol/ScreenshotWriter.h"
 #include "player/DeferredSetup.h"
 #include "player/EnginePreferences.h"
 #include "player/workObject.h"
 #include "preview/SmartPreview.h"
 #include "queue/NormalPlaylistView.h"
-#include "settings/NormalSettingPage.h"
 #include "ui/AnimateMenu.h"
 #include "ui/QDraggableNoBordersWnd.h"
 #include "ui/StyleLoader.h"
@@ -53,8 +44,6 @@
 #include "ui/WindowShadow.h"
 
 #include <QApplication>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QIcon>
 #include <QStackedWidget>
 #include <QTimer>
@@ -65,8 +54,6 @@ namespace {
 // Design pixels.
 constexpr QSize kMinimumSize{480, 270};
 constexpr int k3dAfterMs = 1000;
-constexpr char kUserBehaviour[] = "UserBehaviour";
-constexpr char kSubtitleFilter[] = QT_TRANSLATE_NOOP("NormalMainWindow", "Subtitle Files (%1)");
 
 PlaySourcePath sourcePaths()
 {
@@ -74,11 +61,6 @@ PlaySourcePath sourcePaths()
             [](const QString &drive) {
                 return drive.size() == 1 ? DriveLetters::instance()->volumeLabel(drive.at(0)) : QString();
             }};
-}
-
-void noteBehaviour(const QString &name, const QString &value)
-{
-    PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
 }
 
 } // namespace
@@ -153,38 +135,6 @@ void NormalMainWindow::makeMenu()
     m_menu->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     m_menu->setAttribute(Qt::WA_NoMouseReplay);
     connect(m_menu, &AnimateMenu::sig_showDialog, this, &NormalMainWindow::openDialog);
-}
-
-void NormalMainWindow::makePlayMenu()
-{
-    MenuHost host{m_settings,
-                  [this] { return m_player; },
-                  [this] { return m_control->hasSource(); },
-                  [this] { slot_openMedia(); },
-                  [this](const QString &drive) { slot_playSource(drive); },
-                  [this] { slot_loadSubtitle(); },
-                  [this] { openDialog(PopDlgTyle::SubtitleSetting); },
-                  [this] { slot_settingClicked(); },
-                  [this] { openDialog(PopDlgTyle::VideoControl); },
-                  [this] { openDialog(PopDlgTyle::ColorAdjust); },
-                  [this] { m_control->slot_stopLater(); },
-                  [this] { slot_fullScreen(); },
-                  [this] { toggleAlwaysOnTop(); },
-                  [this] { toggleInformation(); },
-                  [this](int seconds) { emit sig_seek(seconds); },
-                  noteBehaviour,
-                  ApplicationInfoManager::instance()->shaderFolder()};
-    m_playMenu = new PlayMenu(
-        std::move(host),
-        [](int operation) {
-            return AppEventFilter::instance()
-                ->keySequence(false, operation)
-                .toString(QKeySequence::NativeText);
-        },
-        this);
-    m_discs = new OpticalDiscs(this);
-    m_discs->refresh();
-    m_settingsHost = std::make_unique<PcSettingsHost>(m_settings, [this] { return m_player; });
 }
 
 void NormalMainWindow::connectParts()
@@ -368,9 +318,8 @@ void NormalMainWindow::slot_configLater()
     m_setUp->start();
     m_overlays->playlist()->queue()->load();
     m_session->open();
-    auto *statistics = PlayInfoStatisticsHelper::instance();
     for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})
-        statistics->note(QLatin1String(kUserBehaviour), QLatin1String(event), QStringLiteral("true"));
+        noteBehaviour(QLatin1String(event), QStringLiteral("true"));
 }
 
 void NormalMainWindow::onPlayerMade(QPlayer *player)
@@ -403,15 +352,6 @@ void NormalMainWindow::onEngineReady()
     m_overlays->bar()->volumeControl()->restore();
     const QSize size = m_playView->surface()->deviceSize();
     emit sig_resizeRender(size.width(), size.height());
-}
-
-void NormalMainWindow::slot_showInitFailDialog()
-{
-    if (m_isClosed)
-        return;
-    NormalMessageBoxFactory::showNote(
-        this, tr("Failure initializing playback device, please update your video card and "
-                 "sound card drivers. Contact us if that does not fix the problem."));
 }
 
 // ---- playing
@@ -496,40 +436,6 @@ void NormalMainWindow::slot_backToSelectView()
     applyAlwaysOnTop(false);
 }
 
-void NormalMainWindow::tellFailure(int errCode)
-{
-    if (m_isClosed)
-        return;
-    const PlayFailure::Row &row = PlayFailure::rowOf(errCode);
-    QString text = PlayFailure::text(row, QUrl());
-    if (row.namesSource)
-        text += QStringLiteral("\n\n") + m_control->currentPath();
-    NormalMessageBoxFactory::showNote(this, text, PlayFailure::title(row));
-    m_control->failureRead(errCode);
-}
-
-void NormalMainWindow::tellNote(int type)
-{
-    const ErrorNote::Row *row = ErrorNote::rowOf(type);
-    if (row == nullptr || m_isClosed)
-        return;
-    NormalMessageBox box(this);
-    box.setText(ErrorNote::text(*row));
-    box.setCheckBoxHidden(row->suppressKey == nullptr);
-    box.addButton(tr("OK"));
-    box.exec();
-    if (row->suppressKey != nullptr && box.isCheckBoxChecked())
-        ErrorNote::suppress(*row, m_settings);
-}
-
-void NormalMainWindow::tellBdavNote()
-{
-    if (m_isClosed)
-        return;
-    NormalMessageBoxFactory::showNote(this, MenuCase::bdavNote());
-    MenuCase::suppressBdavNote(m_settings);
-}
-
 void NormalMainWindow::slot_changePoster(QVariant poster, bool bAnimate)
 {
     m_startView->setPoster(poster, bAnimate);
@@ -543,77 +449,6 @@ void NormalMainWindow::slot_posterProgressChange(QVariant value)
 void NormalMainWindow::slot_opacityProgressChange(QVariant value)
 {
     m_startView->poster()->setOpacityProgress(value.toDouble());
-}
-
-void NormalMainWindow::slot_openMedia()
-{
-    const QString key = QLatin1String(SettingsKeys::PC_AddLastFolder);
-    const QString filters =
-        tr("Media Files (%1)").arg(CommonInfoManager::playableNameFilters().join(QLatin1Char(' ')))
-        + QStringLiteral(";;") + tr("All Files (*)");
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open Media..."), m_settings.value(key).toString(), filters);
-    if (path.isEmpty())
-        return;
-    m_settings.setValue(key, QFileInfo(path).absolutePath());
-    slot_playSource(path);
-}
-
-void NormalMainWindow::slot_loadSubtitle()
-{
-    if (!m_control->hasSource())
-        return;
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Load Subtitle..."), QFileInfo(m_control->currentPath()).absolutePath(),
-        tr(kSubtitleFilter).arg(QLatin1String(DropRule::SubtitleNames)));
-    if (!path.isEmpty())
-        emit sig_addSubtitle(path);
-}
-
-void NormalMainWindow::slot_aboutAction()
-{
-    m_dialogs->show(PopDlgTyle::About);
-}
-
-void NormalMainWindow::openDialog(PopDlgTyle type)
-{
-    switch (type) {
-    case PopDlgTyle::OpenMedia:
-        slot_openMedia();
-        break;
-    case PopDlgTyle::LoadSubtitle:
-        slot_loadSubtitle();
-        break;
-    case PopDlgTyle::Setting:
-        openSettings(SettingsPageId::General);
-        break;
-    case PopDlgTyle::SubtitleSetting:
-        openSettings(SettingsPageId::Subtitle);
-        break;
-    default:
-        m_dialogs->show(type);
-        break;
-    }
-}
-
-void NormalMainWindow::openSettings(SettingsPageId page)
-{
-    if (m_settingPage == nullptr) {
-        m_settingPage = new NormalSettingPage(m_settings, *m_settingsHost, this);
-        connect(m_settingPage, &NormalSettingPage::sig_settingsSaved, this, &NormalMainWindow::takeSettings);
-    }
-    if (m_settingPage->isVisible())
-        return;
-    m_settingPage->setStartPage(page);
-    m_settingPage->exec();
-}
-
-void NormalMainWindow::takeSettings(const QStringList &keys)
-{
-    const QString screenSaver = QLatin1String(SettingsKeys::PC_DisableScreenSaver);
-    if (keys.contains(screenSaver))
-        m_settings.value(screenSaver).toBool() ? ScreenSaver::disable() : ScreenSaver::enable();
-    m_overlays->metaView()->updateShown();
 }
 
 void NormalMainWindow::slot_saveScreenShot(unsigned char *RGBA, int Width, int Height)

@@ -122,6 +122,7 @@ protected:
     bool nativeEvent(const QByteArray &eventType, void *message, long *result) override;
 
 private:
+    static void noteBehaviour(const QString &name, const QString &value);
     void makeViews();
     void makeMenu();
     void makePlayMenu();

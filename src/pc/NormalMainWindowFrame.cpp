@@ -181,11 +181,6 @@ void NormalMainWindow::slot_menuClicked()
     m_menu->slideIn();
 }
 
-void NormalMainWindow::slot_settingClicked()
-{
-    openDialog(PopDlgTyle::Setting);
-}
-
 void NormalMainWindow::slot_responseFocusChange(QWidget *old, QWidget *now)
 {
     Q_UNUSED(old)

@@ -66,6 +66,8 @@ inline constexpr char PC_ZoomAmount[] = "PC_ZoomAmount";
 inline constexpr char PC_VerticalShift[] = "PC_VerticalShift";
 // Path of the shader that the user has chosen.
 inline constexpr char PC_CustomShader[] = "PC_CustomShader";
+// Sound goes to the automatic device, unchanged: nothing needs to be known of devices before a source plays.
+inline constexpr char PC_AudioAutomatic[] = "PC_AudioAutomatic";
 
 // 3D
 inline constexpr char PC_3DEngine[] = "PC_3DEngine";

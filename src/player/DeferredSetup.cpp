@@ -32,7 +32,14 @@ void DeferredSetup::goOn()
     if (m_outcome != Pending)
         return;
     if (m_toolStep) {
-        finish(m_player->rendererFailed() ? Failed : Ready);
+        const bool isReady = !m_player->rendererFailed();
+        const bool soundWaits =
+            isReady && EnginePreferences(*SettingsManager::instance(), *m_player).canSoundWait();
+        finish(isReady ? Ready : Failed);
+        if (soundWaits) {
+            m_worker.setFunction(&DeferredSetup::applyWaitingSound, m_player);
+            m_worker.start();
+        }
         return;
     }
     m_player = QPlayer::instance();
@@ -52,7 +59,22 @@ void DeferredSetup::setUpOutput(void *player)
 {
     auto &output = *static_cast<QPlayer *>(player);
     if (output.ensureTool())
-        EnginePreferences(*SettingsManager::instance(), output).applyAll();
+        applyPreferences(output);
+}
+
+// On the worker. The list of sound devices may take as long as the picture does to come.
+void DeferredSetup::applyPreferences(QPlayer &output)
+{
+    EnginePreferences preferences(*SettingsManager::instance(), output);
+    preferences.applyAllButSound();
+    if (!preferences.canSoundWait())
+        preferences.applyAudio();
+}
+
+// On the worker.
+void DeferredSetup::applyWaitingSound(void *player)
+{
+    EnginePreferences(*SettingsManager::instance(), *static_cast<QPlayer *>(player)).applyAudio();
 }
 
 void DeferredSetup::finish(Outcome outcome)

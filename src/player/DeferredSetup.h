@@ -49,6 +49,8 @@ private:
     enum Outcome { Pending, Ready, Failed, Cancelled };
 
     static void setUpOutput(void *player);
+    static void applyPreferences(QPlayer &output);
+    static void applyWaitingSound(void *player);
     void goOn();
     void finish(Outcome outcome);
 

@@ -79,10 +79,21 @@ void storeSupport(SettingsManager &settings, unsigned capability)
 
 } // namespace
 
+bool EnginePreferences::canSoundWait() const
+{
+    return !m_settings.contains(key(SettingsKeys::PC_DefaultAudioDeviceName))
+           || m_settings.value(key(SettingsKeys::PC_AudioAutomatic)).toBool();
+}
+
 void EnginePreferences::applyAll()
 {
-    applyVideo();
+    applyAllButSound();
     applyAudio();
+}
+
+void EnginePreferences::applyAllButSound()
+{
+    applyVideo();
     applySubtitle();
     applyRegion();
     applyStoredShader();
@@ -132,6 +143,11 @@ void EnginePreferences::applyAudio(Occasion occasion)
                                     << "; taken: " << device->name;
 
     const bool passThrough = choice.passThrough && AudioOutputs::allowsPassThrough(device->connection);
+    m_settings.setValue(key(SettingsKeys::PC_AudioAutomatic),
+                        device->name == devices.first().name && !passThrough
+                            && choice.speaker == PreferenceRows::Speaker.fallback
+                            && choice.amplification == PreferenceRows::Amplification.fallback
+                            && choice.delay == PreferenceRows::AudioOffset.fallback);
     const int codec = AudioOutputs::codecValue(device->connection, device->capability, choice.mask);
     m_settings.setValue(key(SettingsKeys::PC_Codec), codec);
     storeSupport(m_settings, device->capability);

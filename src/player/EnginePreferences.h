@@ -33,6 +33,10 @@ public:
     void applyProxy();
     // All of them, the shader as it is stored.
     void applyAll();
+    void applyAllButSound();
+    // Nothing but the engine's own defaults was asked for the last time that the sound was applied, or never
+    // anything: a source may begin before.
+    [[nodiscard]] bool canSoundWait() const;
 
 private:
     void applyStoredShader();

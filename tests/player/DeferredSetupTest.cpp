@@ -26,7 +26,9 @@ protected:
         fakeEngine().release("IVDPlayTool::audioDevices");
         m_setUp.cancel();
         QPlayer::releaseInstance();
-        SettingsManager::instance()->remove(QLatin1String(SettingsKeys::PC_EnableHardware));
+        for (const char *key : {SettingsKeys::PC_EnableHardware, SettingsKeys::PC_DefaultAudioDeviceName,
+                                SettingsKeys::PC_AudioAutomatic})
+            SettingsManager::instance()->remove(QLatin1String(key));
     }
 
     static std::ptrdiff_t place(const std::string &call)
@@ -65,8 +67,21 @@ TEST_F(DeferredSetupTest, AnOutputThatFailsGetsNoPreferences)
     EXPECT_FALSE(m_setUp.waitUntilDone());
 }
 
-TEST_F(DeferredSetupTest, TheWindowIsNotHeldUpBySlowSoundDevices)
+TEST_F(DeferredSetupTest, ASourceNeedNotWaitForTheSoundDevicesWhereNothingWasChosen)
 {
+    fakeEngine().hold("IVDPlayTool::audioDevices");
+    m_setUp.start();
+    ASSERT_EVENTUALLY(m_ready.count() == 1);
+    EXPECT_TRUE(m_setUp.waitUntilDone());
+    ASSERT_EVENTUALLY(place("IVDPlayTool::audioDevices()") >= 0);
+    fakeEngine().release("IVDPlayTool::audioDevices");
+}
+
+TEST_F(DeferredSetupTest, AChosenDeviceIsThereBeforeASourcePlays)
+{
+    auto *settings = SettingsManager::instance();
+    settings->setValue(QLatin1String(SettingsKeys::PC_DefaultAudioDeviceName), "Living room");
+    settings->setValue(QLatin1String(SettingsKeys::PC_AudioAutomatic), false);
     fakeEngine().hold("IVDPlayTool::audioDevices");
     m_setUp.start();
     ASSERT_EVENTUALLY(place("IVDPlayTool::audioDevices()") >= 0);

@@ -151,7 +151,8 @@ TEST_F(PcWindowTest, AFileIsOpenedThroughTheDialogAndPausedByKey)
     m_window->key("ctrl+o");
     const qulonglong dialog = Desktop::waitForWindow(m_run->id(), "Open Media.*");
     ASSERT_NE(dialog, 0U);
-    ASSERT_TRUE(eventually([&] { return Desktop::activeWindow() == dialog; })) << "the dialog has no keyboard";
+    ASSERT_TRUE(eventually([&] { return Desktop::activeWindow() == dialog; }))
+        << "the dialog has no keyboard";
     m_window->type(film.fileName());
     Desktop::sendKey(dialog, "Return");
     ASSERT_TRUE(waitForFilm());

@@ -66,23 +66,26 @@ function(quorin_refresh_moc target sources)
     endif()
 endfunction()
 
-# quorin_layer(<folder of src/> LINK <targets...>) makes the static library quorin_<folder>.
+# quorin_layer(<folder of src/> LINK <targets...>) makes the static library quorin_<folder>. The media server has layers
+# of its own, which are told from the player's by PREFIX server_ and share none of them.
 #
 # A layer's headers are included as "<folder>/Header.h", and that path exists only for those who link the
 # layer: every layer has an include root of its own with one link to its folder.
 function(quorin_layer layer)
-    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "PREFIX" "LINK" ${ARGN})
+    set(target quorin_${ARG_PREFIX}${layer})
     quorin_collect_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
     if(NOT sources MATCHES "\\.cpp")
-        add_library(quorin_${layer} INTERFACE)
-        target_link_libraries(quorin_${layer} INTERFACE ${ARG_LINK})
+        add_library(${target} INTERFACE)
+        quorin_include_root(${target} ${layer} "${CMAKE_CURRENT_SOURCE_DIR}" INTERFACE)
+        target_link_libraries(${target} INTERFACE ${ARG_LINK})
         return()
     endif()
-    add_library(quorin_${layer} STATIC ${sources})
-    quorin_refresh_moc(quorin_${layer} "${sources}")
-    quorin_include_root(quorin_${layer} ${layer} "${CMAKE_CURRENT_SOURCE_DIR}" PUBLIC)
-    target_link_libraries(quorin_${layer} PUBLIC ${ARG_LINK})
-    quorin_precompile(quorin_${layer})
+    add_library(${target} STATIC ${sources})
+    quorin_refresh_moc(${target} "${sources}")
+    quorin_include_root(${target} ${layer} "${CMAKE_CURRENT_SOURCE_DIR}" PUBLIC)
+    target_link_libraries(${target} PUBLIC ${ARG_LINK})
+    quorin_precompile(${target})
 endfunction()
 
 function(quorin_include_root target name directory scope)

@@ -1,5 +1,5 @@
-// The music library as the protocol sees it, with what a user makes of it: likes, playlists, corrections. Threads and
-// failures as in IVideoLibrary. Song ids are kept over rescans and moves.
+// The music library as the protocol sees it, with what a user makes of it: likes, playlists, corrections.
+// Threads and failures as in IVideoLibrary. Song ids are kept over rescans and moves.
 #pragma once
 
 #include "records/LibraryRecords.h"
@@ -11,10 +11,13 @@ public:
 
     [[nodiscard]] virtual Page<SongRecord> songs(const ListRequest &request) const = 0;
     [[nodiscard]] virtual Page<SongRecord> recentSongs(const ListRequest &request) const = 0;
-    [[nodiscard]] virtual Page<SongRecord> playlistSongs(int idPlayList, const ListRequest &request) const = 0;
+    [[nodiscard]] virtual Page<SongRecord> playlistSongs(int idPlayList,
+                                                         const ListRequest &request) const = 0;
     [[nodiscard]] virtual Page<SongRecord> albumSongs(int idAlbum, const ListRequest &request) const = 0;
-    [[nodiscard]] virtual Page<SongRecord> artistSongs(const QString &artist, const ListRequest &request) const = 0;
-    [[nodiscard]] virtual Page<SongRecord> genreSongs(const QString &genre, const ListRequest &request) const = 0;
+    [[nodiscard]] virtual Page<SongRecord> artistSongs(const QString &artist,
+                                                       const ListRequest &request) const = 0;
+    [[nodiscard]] virtual Page<SongRecord> genreSongs(const QString &genre,
+                                                      const ListRequest &request) const = 0;
     [[nodiscard]] virtual Page<AlbumRecord> albums(const ListRequest &request) const = 0;
     [[nodiscard]] virtual QVector<ArtistRecord> artists() const = 0;
     [[nodiscard]] virtual QStringList genres() const = 0;

@@ -1,5 +1,5 @@
-// The video library as the protocol sees it. Reads come from any thread at once; a change waits until it stands in the
-// database and says whether it does. Ids that don't exist give records with id 0 and false.
+// The video library as the protocol sees it. Reads come from any thread at once; a change waits until it
+// stands in the database and says whether it does. Ids that don't exist give records with id 0 and false.
 #pragma once
 
 #include "records/LibraryRecords.h"
@@ -14,7 +14,8 @@ public:
     [[nodiscard]] virtual Page<MovieRecord> movies(Role role, const ListRequest &request) const = 0;
     [[nodiscard]] virtual MovieRecord movie(int idFile) const = 0;
     [[nodiscard]] virtual Page<GroupRecord> groups(const ListRequest &request) const = 0;
-    [[nodiscard]] virtual QVector<MovieRecord> groupMovies(int idGroup, SortMethod sort, bool ascending) const = 0;
+    [[nodiscard]] virtual QVector<MovieRecord> groupMovies(int idGroup, SortMethod sort,
+                                                           bool ascending) const = 0;
     [[nodiscard]] virtual Page<ShowRecord> shows(const ListRequest &request) const = 0;
     [[nodiscard]] virtual QVector<SeasonRecord> seasons(int idTvshow) const = 0;
     [[nodiscard]] virtual SeasonRecord season(int idTvshow, int number) const = 0;
@@ -35,11 +36,12 @@ public:
     [[nodiscard]] virtual ScannedVideo scanned(int idFile) const = 0;
     // A match chosen by the user: role and place change with it, later scans leave it alone.
     virtual bool matchMovie(int idFile, const Description &description, const QString &collection) = 0;
-    virtual bool matchEpisode(int idFile, const Description &show, const Description &episode, int season, int number)
-        = 0;
+    virtual bool matchEpisode(int idFile, const Description &show, const Description &episode, int season,
+                              int number) = 0;
     // What a provider found without being told by the user; never over what a user chose.
     virtual bool describeMovie(int idFile, const Description &description, const QString &collection) = 0;
-    virtual bool describeShow(int idTvshow, const Description &description, const QMap<int, Description> &seasons) = 0;
+    virtual bool describeShow(int idTvshow, const Description &description,
+                              const QMap<int, Description> &seasons) = 0;
     virtual bool describeEpisode(int idFile, const Description &description) = 0;
 
     struct Wanted {

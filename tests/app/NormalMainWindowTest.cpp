@@ -372,6 +372,8 @@ TEST_F(NormalMainWindowTest, WhatWasPlayedStandsOnTheStartView)
     recent.clear();
     open();
     play(film);
+    // A stop that comes before the window has heard of the source is no playing.
+    ASSERT_TRUE(QTest::qWaitFor([&recent] { return !recent.entries().isEmpty(); }, 10000));
     m_window->slot_hotKey(KeyOperate_Stop);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window->isPlayViewShown(); }, 10000));
     ASSERT_EQ(recent.entries().size(), 1);

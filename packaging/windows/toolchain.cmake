@@ -2,7 +2,8 @@
 #
 #   cmake --preset windows        or        cmake --toolchain packaging/windows/toolchain.cmake ...
 #
-# QUORIN_WINDOWS_LIBRARIES is the folder that holds qt5-win32/ and mpv-win32/, as build-qt and build-mpv make them.
+# QUORIN_WINDOWS_LIBRARIES is the folder that holds qt5-win32/, mpv-win32/ and curl-win32/, as build-qt, build-mpv and
+# build-curl make them.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 
@@ -18,6 +19,7 @@ endif()
 set(CMAKE_FIND_ROOT_PATH
     "${QUORIN_WINDOWS_LIBRARIES}/qt5-win32"
     "${QUORIN_WINDOWS_LIBRARIES}/mpv-win32"
+    "${QUORIN_WINDOWS_LIBRARIES}/curl-win32"
     "${QUORIN_WINDOWS_LIBRARIES}/extra-win32"
     /usr/i686-w64-mingw32)
 set(CMAKE_PREFIX_PATH "${QUORIN_WINDOWS_LIBRARIES}/qt5-win32")
@@ -29,7 +31,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # Only what was made for this target is looked at.
 set(ENV{PKG_CONFIG_PATH} "")
 set(ENV{PKG_CONFIG_LIBDIR}
-    "${QUORIN_WINDOWS_LIBRARIES}/mpv-win32/lib/pkgconfig:${QUORIN_WINDOWS_LIBRARIES}/extra-win32/lib/pkgconfig")
+    "${QUORIN_WINDOWS_LIBRARIES}/mpv-win32/lib/pkgconfig:${QUORIN_WINDOWS_LIBRARIES}/curl-win32/lib/pkgconfig:${QUORIN_WINDOWS_LIBRARIES}/extra-win32/lib/pkgconfig")
 
 # Boost is used by its headers alone, and those are the same on every machine.
 set(Boost_NO_BOOST_CMAKE ON)

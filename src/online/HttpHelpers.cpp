@@ -1,0 +1,56 @@
+#include "HttpHelpers.h"
+
+#include "BodyBuffer.h"
+#include "CertificateFile.h"
+
+#include "core/ApplicationInfoManager.h"
+
+#include <QDebug>
+
+namespace {
+
+constexpr char kJsonHeader[] = "Content-Type:application/json;charset=UTF-8";
+
+HttpResult call(TransferRequest request, int timeoutSeconds, const std::atomic<bool> *stop)
+{
+    request.headers = {kJsonHeader};
+    request.timeoutSeconds = timeoutSeconds;
+    if (CurlTransfer::isSecured(request.url))
+        request.certificateFile =
+            CertificateFile::find(ApplicationInfoManager::instance()->applicationFolder());
+
+    CurlTransfer::Progress progress;
+    if (stop != nullptr)
+        progress = [stop](qint64, qint64) { return !*stop; };
+    HttpResult answer;
+    CurlTransfer curl;
+    TransferResult result = curl.run(request, BodyBuffer::appendTo(answer.bytes), progress);
+    if (result.end == TransferResult::End::Done && !BodyBuffer::isSuccess(result.httpStatus))
+        result = CurlTransfer::refusal(result.httpStatus);
+    answer.httpStatus = result.httpStatus;
+    if (result.end == TransferResult::End::Done)
+        return answer;
+    answer.error = result.code;
+    answer.errorText = result.text;
+    qInfo().noquote() << QStringLiteral("error curl get Code %1 : %2").arg(result.code).arg(result.text);
+    return answer;
+}
+
+} // namespace
+
+HttpResult PostJson(const QString &url, const QByteArray &body, int timeoutSeconds,
+                    const std::atomic<bool> *stop)
+{
+    TransferRequest request;
+    request.url = url;
+    request.method = TransferRequest::Method::PostBody;
+    request.body = body;
+    return call(std::move(request), timeoutSeconds, stop);
+}
+
+HttpResult GetText(const QString &url, int timeoutSeconds, const std::atomic<bool> *stop)
+{
+    TransferRequest request;
+    request.url = url;
+    return call(std::move(request), timeoutSeconds, stop);
+}

@@ -37,6 +37,7 @@ struct Sinks {
     const CurlTransfer::Writer &write;
     const CurlTransfer::Progress &progress;
     qint64 resourceSize{-1};
+    bool isHeadWhole{false};
 };
 
 std::size_t takeBytes(char *data, std::size_t size, std::size_t count, void *user) noexcept
@@ -69,6 +70,9 @@ std::size_t takeHeader(char *data, std::size_t size, std::size_t count, void *us
         if (line.startsWith("HTTP/")) {
             // Another answer begins, after a redirect or a proxy's word.
             sinks->resourceSize = -1;
+            sinks->isHeadWhole = false;
+        } else if (line.isEmpty()) {
+            sinks->isHeadWhole = true;
         } else if (line.toLower().startsWith(kContentRange)) {
             bool isNumber = false;
             const qint64 whole = line.mid(line.lastIndexOf('/') + 1).toLongLong(&isNumber);
@@ -254,7 +258,10 @@ TransferResult CurlTransfer::run(const TransferRequest &request, const Writer &w
     curl_easy_setopt(curl, CURLOPT_XFERINFODATA, &sinks);
     curl_easy_setopt(curl, CURLOPT_XFERINFOFUNCTION, takeProgress);
 
-    const CURLcode code = curl_easy_perform(curl);
+    CURLcode code = curl_easy_perform(curl);
+    // A peer that closes within its head counts as done for the library.
+    if (code == CURLE_OK && !sinks.isHeadWhole)
+        code = CURLE_GOT_NOTHING;
     long status = 0;
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
     TransferResult result = resultOf(code, status);

@@ -79,7 +79,9 @@ DownloadProxyBase::Fetched DownloadProxy::fetch(QFile &file)
         fail(DownloadResult::End::File, file.errorString(), result.httpStatus);
         return Fetched::Failed;
     }
-    if (result.end == TransferResult::End::Failed) {
+    // A range behind the end says more than that it failed.
+    const bool isBehind = offset > 0 && result.httpStatus == kRangeNotSatisfiable;
+    if (result.end == TransferResult::End::Failed && !isBehind) {
         fail(isStopped() ? DownloadResult::End::Stopped : DownloadResult::End::Transfer, result.text,
              result.httpStatus);
         return Fetched::Failed;

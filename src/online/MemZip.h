@@ -19,9 +19,9 @@ public:
     // Unpacks data into folder, which is made when it is missing; what lies there under the same name is
     // replaced. Everything is unpacked beside it first and moved in when all of it is whole.
     //
-    // False on any error: an archive that can't be read or whose sums are wrong, an entry that would leave
-    // the folder, is a link, encrypted or there twice, more than limits allow, a disc that takes no more. The
-    // log tells it, and nothing of the archive is left in the folder.
+    // False on any error: an archive that is empty, can't be read or whose sums are wrong, an entry that
+    // would leave the folder, is a link, encrypted or there twice, more than limits allow, a disc that takes
+    // no more. The log tells it, and nothing of the archive is left in the folder.
     [[nodiscard]] static bool Unzip(const char *data, std::size_t size, const QString &folder,
                                     const MemZipLimits &limits = {});
 };

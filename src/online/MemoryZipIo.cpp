@@ -30,6 +30,7 @@ uLong MemoryZipIo::read(voidpf self, voidpf, void *buffer, uLong size)
     if (bytes > 0)
         std::memcpy(buffer, io->m_data + io->m_position, bytes);
     io->m_position += bytes;
+    io->m_isShort = io->m_isShort || bytes < size;
     return bytes;
 }
 
@@ -63,7 +64,7 @@ int MemoryZipIo::close(voidpf, voidpf)
     return 0;
 }
 
-int MemoryZipIo::error(voidpf, voidpf)
+int MemoryZipIo::error(voidpf self, voidpf)
 {
-    return 0;
+    return static_cast<MemoryZipIo *>(self)->m_isShort ? 1 : 0;
 }

@@ -33,4 +33,6 @@ private:
     const char *m_data;
     ZPOS64_T m_size;
     ZPOS64_T m_position{0};
+    // The layer takes a short read for zeros unless it is told of an error.
+    bool m_isShort{false};
 };

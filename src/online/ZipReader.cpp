@@ -39,8 +39,6 @@ std::optional<QVector<ZipEntry>> ZipReader::entries(qint64 maximum)
     unz_global_info64 global{};
     if (unzGetGlobalInfo64(m_archive, &global) != UNZ_OK || global.number_entry > ZPOS64_T(maximum))
         return std::nullopt;
-    if (global.number_entry == 0)
-        return list;
     int state = unzGoToFirstFile(m_archive);
     for (; state == UNZ_OK; state = unzGoToNextFile(m_archive)) {
         std::optional<ZipEntry> entry = currentEntry();

@@ -29,7 +29,7 @@ public:
     ZipReader &operator=(const ZipReader &) = delete;
 
     [[nodiscard]] bool isOpen() const { return m_archive != nullptr; }
-    // Nothing when the list is damaged or longer than maximum.
+    // Nothing when the list is empty, damaged or longer than maximum.
     [[nodiscard]] std::optional<QVector<ZipEntry>> entries(qint64 maximum);
 
     // Takes a piece of an entry; false ends the reading.

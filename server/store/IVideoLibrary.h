@@ -43,6 +43,13 @@ public:
     virtual bool describeShow(int idTvshow, const Description &description,
                               const QMap<int, Description> &seasons) = 0;
     virtual bool describeEpisode(int idFile, const Description &description) = 0;
+    // A collection by the name that its films carry. A library that keeps no texts of collections says false.
+    virtual bool describeCollection(const QString &collection, const Description &description)
+    {
+        Q_UNUSED(collection)
+        Q_UNUSED(description)
+        return false;
+    }
 
     struct Wanted {
         int id{0}; // idFile, or idTvshow of a show

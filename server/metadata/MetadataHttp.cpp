@@ -206,7 +206,7 @@ Outcome MetadataHttp::waitForTurn(const MetadataCall &call)
     const qint64 now = m_clock.steadyMs();
     if (now >= call.deadlineMs)
         return Outcome::TimedOut;
-    const qint64 moment = m_rate.take(now, call.deadlineMs);
+    const qint64 moment = m_rate.take(now, std::min(call.deadlineMs, now + m_limits.longestPauseMs));
     if (moment < 0)
         return Outcome::Busy;
     if (moment > now && !m_clock.pass(moment - now, call.stop))

@@ -1,6 +1,7 @@
 // The end of a list and of the program, with requests under way and from other threads.
 #include "TestPictures.h"
 
+#include "pictures/PictureLane.h"
 #include "pictures/PictureManager.h"
 #include "pictures/PosterLoader.h"
 #include "support/Eventually.h"
@@ -107,18 +108,23 @@ TEST_F(PictureManagerEndTest, TheEndDoesNotWaitForTheNextRound)
 
 TEST_F(PictureManagerEndTest, TheEndLeavesTheRestOfARound)
 {
-    PictureManager manager(m_server.sources(), kNever);
+    int told = 0;
+    PictureLane lane(
+        "poster",
+        [this](const QString &key, const auto &) { return PosterLoader::load(key, m_server.sources()); },
+        [&told](int) { ++told; }, kNever);
     m_server.hold();
-    for (int row = 0; row < 50; ++row)
-        EXPECT_EQ(manager.requestPoster(row, QString::number(row)), nullptr);
+    for (int row = 0; row < 50; ++row) {
+        put(QString::number(row));
+        lane.queue(row, QString::number(row));
+    }
     ASSERT_TRUE(m_server.waitForFetches(1));
-    std::thread stopping([&manager] { manager.stop(); });
-    // Once the lanes have been asked to end, nothing is queued any more.
+    lane.askToStop();
     m_server.release();
-    stopping.join();
-    const int fetched = m_server.addresses().size();
-    EXPECT_EQ(manager.requestPoster(99, kOther), nullptr);
-    EXPECT_EQ(m_server.addresses().size(), fetched);
+    lane.stop();
+    EXPECT_EQ(m_server.addresses().size(), 1);
+    EXPECT_LE(told, 1);
+    EXPECT_EQ(lane.request(99, kOther), nullptr);
 }
 
 TEST_F(PictureManagerEndTest, AnotherThreadGetsNoPixmapButThePictureComes)

@@ -1,5 +1,6 @@
 #include "ScreenSaverRule.h"
 
+#include "core/SettingsDefaults.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 
@@ -7,8 +8,8 @@ namespace ScreenSaverRule {
 
 bool staysOff(const SettingsManager &store)
 {
-    const QString key = QLatin1String(SettingsKeys::PC_DisableScreenSaver);
-    return !store.contains(key) || store.value(key).toBool();
+    return store.valueOr<bool>(QLatin1String(SettingsKeys::PC_DisableScreenSaver),
+                               SettingsDefaults::PC_DisableScreenSaver);
 }
 
 } // namespace ScreenSaverRule

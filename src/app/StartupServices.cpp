@@ -6,6 +6,7 @@
 #include "ModeSelectView.h"
 #include "ScreenSaverRule.h"
 #include "TerminationSignal.h"
+#include "UpdateRule.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
@@ -269,7 +270,7 @@ void StartupServices::startBackgroundThread()
          [] {
              WebServiceManager::instance()->reportUsage(CommonInfoManager::instance()->usageDataAllowed());
          },
-         [store] { return store->value(QLatin1String(SettingsKeys::PC_CheckUpdate)).toBool(); },
+         [store] { return UpdateRule::wantsCheck(*store); },
          [] { UpdateManager::instance()->check(UpdateManager::Flag::Auto); }});
 }
 

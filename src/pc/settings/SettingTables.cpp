@@ -1,6 +1,7 @@
 #include "SettingTables.h"
 
 #include "core/LanguageTable.h"
+#include "core/SettingsDefaults.h"
 #include "core/SettingsKeys.h"
 #include "player/PreferenceRows.h"
 #include "player/SubtitleCharsets.h"
@@ -184,11 +185,11 @@ std::vector<SettingRow> generalRows(const SettingsFacts &facts)
         onOff(PC_RememberPosition,
               QT_TRANSLATE_NOOP("NormalSettingPage", "Remember the last playback position"), step, false),
         onOff(PC_DisableScreenSaver, QT_TRANSLATE_NOOP("NormalSettingPage", "Disable Screensaver"), step,
-              true),
+              SettingsDefaults::PC_DisableScreenSaver),
         onOff(PC_MultipleInstance, QT_TRANSLATE_NOOP("NormalSettingPage", "Allow multiple instances"), step,
               false),
         onOff(PC_CheckUpdate, QT_TRANSLATE_NOOP("NormalSettingPage", "Check for new version automatically"),
-              step, true),
+              step, SettingsDefaults::PC_CheckUpdate),
     };
     if (facts.isWindows) {
         table.insert(table.begin() + 6,

@@ -482,6 +482,7 @@ void NormalMainWindow::closeEvent(QCloseEvent *event)
     if (m_isEngineReady)
         m_overlays->bar()->volumeControl()->store();
     m_setUp->cancel();
+    m_settingsHost->shutDown();
     AppEventFilter::instance()->stop();
     if (m_player != nullptr) {
         for (QObject *listener :

@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr int kStopMs = 500;
+constexpr int kDesktopStopMs = 500;
+constexpr int kUntilItEnds = -1;
 constexpr char kDefaultPrograms[] = "ms-settings:defaultapps";
 
 } // namespace
@@ -19,71 +20,107 @@ constexpr char kDefaultPrograms[] = "ms-settings:defaultapps";
 PcSettingsHost::PcSettingsHost(SettingsManager &settings, std::function<QPlayer *()> player)
     : m_settings(settings)
     , m_player(std::move(player))
-    , m_worker(std::make_unique<ThreadWorker>(1))
+    , m_desktop(std::make_unique<ThreadWorker>(1))
+    , m_engine(std::make_unique<ThreadWorker>(1))
 {
 }
 
 PcSettingsHost::~PcSettingsHost()
 {
-    m_worker->stop(kStopMs);
+    shutDown();
 }
 
-QList<SettingsAudioDevice> PcSettingsHost::audioDevices() const
+void PcSettingsHost::shutDown()
+{
+    m_desktop->stop(kDesktopStopMs);
+    // The player is in use until the call has come back.
+    m_engine->stop(kUntilItEnds);
+}
+
+// ---- the engine
+
+QList<SettingsAudioDevice> PcSettingsHost::audioDevices()
 {
     QList<SettingsAudioDevice> devices;
     QPlayer *player = m_player();
     if (player == nullptr)
         return devices;
-    // Asked on the worker of the set-up already.
-    const auto known = player->audioDevices();
+    const auto known = player->knownAudioDevices();
     for (const PlayerAudioDevice &device : known)
         devices.append({device.name, device.connection, device.capability});
+    if (known.isEmpty() && !m_isAskingDevices)
+        askDevices(player);
     return devices;
+}
+
+void PcSettingsHost::setAudioDevicesHandler(std::function<void()> handler)
+{
+    m_devicesHandler = std::move(handler);
+}
+
+void PcSettingsHost::askDevices(QPlayer *player)
+{
+    m_isAskingDevices = true;
+    const auto isFound = std::make_shared<bool>(false);
+    m_engine->addTask([player, isFound] { *isFound = !player->audioDevices().isEmpty(); },
+                      [this, isFound] {
+                          m_isAskingDevices = false;
+                          if (*isFound && m_devicesHandler)
+                              m_devicesHandler();
+                      });
+}
+
+void PcSettingsHost::apply(void (*group)(EnginePreferences &))
+{
+    QPlayer *player = m_player();
+    if (player == nullptr)
+        return;
+    m_engine->addTask([this, player, group] {
+        EnginePreferences preferences(m_settings, *player);
+        group(preferences);
+    });
 }
 
 void PcSettingsHost::applyVideo()
 {
-    if (QPlayer *player = m_player())
-        EnginePreferences(m_settings, *player).applyVideo();
+    apply([](EnginePreferences &preferences) { preferences.applyVideo(); });
 }
 
 void PcSettingsHost::applyAudio()
 {
-    if (QPlayer *player = m_player())
-        EnginePreferences(m_settings, *player).applyAudio(EnginePreferences::Occasion::Save);
+    apply([](EnginePreferences &preferences) { preferences.applyAudio(EnginePreferences::Occasion::Save); });
 }
 
 void PcSettingsHost::applySubtitle()
 {
-    if (QPlayer *player = m_player())
-        EnginePreferences(m_settings, *player).applySubtitle();
+    apply([](EnginePreferences &preferences) { preferences.applySubtitle(); });
 }
 
 void PcSettingsHost::applyRegion()
 {
-    if (QPlayer *player = m_player())
-        EnginePreferences(m_settings, *player).applyRegion();
+    apply([](EnginePreferences &preferences) { preferences.applyRegion(); });
 }
 
 void PcSettingsHost::applyProxy()
 {
-    if (QPlayer *player = m_player())
-        EnginePreferences(m_settings, *player).applyProxy();
+    apply([](EnginePreferences &preferences) { preferences.applyProxy(); });
 }
+
+// ---- the desktop
 
 void PcSettingsHost::readAssociations(std::function<void(const QStringList &)> answer)
 {
     const auto found = std::make_shared<QStringList>();
-    m_worker->addTask([found] { *found = FileAssociation::associatedExtensions(); },
-                      [found, answer = std::move(answer)] { answer(*found); });
+    m_desktop->addTask([found] { *found = FileAssociation::associatedExtensions(); },
+                       [found, answer = std::move(answer)] { answer(*found); });
 }
 
 void PcSettingsHost::changeAssociations(const QStringList &add, const QStringList &remove,
                                         std::function<void(bool)> done)
 {
     const auto isDone = std::make_shared<bool>(false);
-    m_worker->addTask([isDone, add, remove] { *isDone = FileAssociation::ChangeExtensions(add, remove); },
-                      [isDone, done = std::move(done)] { done(*isDone); });
+    m_desktop->addTask([isDone, add, remove] { *isDone = FileAssociation::ChangeExtensions(add, remove); },
+                       [isDone, done = std::move(done)] { done(*isDone); });
 }
 
 void PcSettingsHost::openSystemSettings()

@@ -1,12 +1,14 @@
 // What the settings dialog asks of the program: the engine, the desktop's file types, other programs.
 //
-// GUI thread. File types are read and changed on a worker. Refers to the store, which outlives it.
+// GUI thread, which never waits here: one worker speaks to the engine, another to the desktop. Refers to the
+// store, which outlives it, and to the player until shutDown().
 #pragma once
 
 #include "settings/ISettingsHost.h"
 
 #include <memory>
 
+class EnginePreferences;
 class QPlayer;
 class SettingsManager;
 class ThreadWorker;
@@ -17,7 +19,11 @@ public:
     PcSettingsHost(SettingsManager &settings, std::function<QPlayer *()> player);
     ~PcSettingsHost() override;
 
-    [[nodiscard]] QList<SettingsAudioDevice> audioDevices() const override;
+    // Before the player goes: waits for what the engine is being told and forgets the rest.
+    void shutDown();
+
+    [[nodiscard]] QList<SettingsAudioDevice> audioDevices() override;
+    void setAudioDevicesHandler(std::function<void()> handler) override;
     void applyVideo() override;
     void applyAudio() override;
     void applySubtitle() override;
@@ -31,7 +37,14 @@ public:
     bool startProgram(const QString &commandLine) override;
 
 private:
+    // One group of the stored preferences, on the worker.
+    void apply(void (*group)(EnginePreferences &));
+    void askDevices(QPlayer *player);
+
     SettingsManager &m_settings;
     std::function<QPlayer *()> m_player;
-    std::unique_ptr<ThreadWorker> m_worker;
+    std::function<void()> m_devicesHandler;
+    bool m_isAskingDevices{false};
+    std::unique_ptr<ThreadWorker> m_desktop;
+    std::unique_ptr<ThreadWorker> m_engine;
 };

@@ -125,6 +125,7 @@ void EnginePreferences::applyVideo()
 
 void EnginePreferences::applyAudio(Occasion occasion)
 {
+    const auto held = m_player.holdSoundChoices();
     const AudioChoice choice = readAudio(m_settings);
     if (occasion == Occasion::Save)
         writeLog(kAudioSave, {{"SpeakerIndex", choice.speaker},

@@ -213,8 +213,16 @@ public:
     void setSDRValue(int value);
     void setLimitedRange(bool limited);
     void setVideoOutput(const QString &outputs);
-    // Asked once and kept. Waits for the sound system the first time.
+    // Asked once and kept. Waits for the sound system the first time: not for the application's thread.
     [[nodiscard]] QList<PlayerAudioDevice> audioDevices();
+    // Held by whoever hands the choices of the sound over, while it reads them, asks and sets: those who do
+    // so at the same time then end with what was stored last.
+    [[nodiscard]] std::unique_lock<std::mutex> holdSoundChoices()
+    {
+        return std::unique_lock(m_soundChoicesMutex);
+    }
+    // Those that were asked for by now; never waits.
+    [[nodiscard]] QList<PlayerAudioDevice> knownAudioDevices();
     [[nodiscard]] QString currentAudioDevice();
     // False for an empty or unknown device, which changes nothing.
     bool setAudioOutput(bool passThrough, const QString &device);
@@ -452,6 +460,7 @@ private:
     std::mutex m_toolMutex;
     std::mutex m_openMutex;
     std::mutex m_transportMutex;
+    std::mutex m_soundChoicesMutex;
     mutable std::mutex m_stateMutex;
 
     std::atomic_bool m_hasVideoParent{false};

@@ -59,14 +59,17 @@ void QPlayer::setVideoOutput(const QString &outputs)
     setStringProperty(EngineProperties::VideoOutput, outputs.toUtf8());
 }
 
+QList<PlayerAudioDevice> QPlayer::knownAudioDevices()
+{
+    std::lock_guard lock(m_stateMutex);
+    return m_audioDevices;
+}
+
 QList<PlayerAudioDevice> QPlayer::audioDevices()
 {
-    {
-        std::lock_guard lock(m_stateMutex);
-        if (!m_audioDevices.isEmpty())
-            return m_audioDevices;
-    }
-    QList<PlayerAudioDevice> devices;
+    QList<PlayerAudioDevice> devices = knownAudioDevices();
+    if (!devices.isEmpty())
+        return devices;
     onTool([&devices](libvp::IVDPlayTool &tool) {
         const libvp::VDAudioDeviceList *list = nullptr;
         if (!tool.audioDevices(&list) || !list || !list->devices)

@@ -42,6 +42,7 @@ public:
     bool startsPrograms{true};
     SettingsProxy proxyOfSystem{QStringLiteral("proxy.lan"), QStringLiteral("3128")};
     ILibraryPaths *paths{nullptr};
+    std::function<void()> devicesFound;
     // Every call, in order.
     QStringList calls;
     QStringList added;
@@ -55,7 +56,8 @@ public:
     }
 
     SettingsFacts facts() const override { return known; }
-    QList<SettingsAudioDevice> audioDevices() const override { return devices; }
+    QList<SettingsAudioDevice> audioDevices() override { return devices; }
+    void setAudioDevicesHandler(std::function<void()> handler) override { devicesFound = std::move(handler); }
     bool supports3DMode(int mode) const override { return !modesWithout3D.contains(mode); }
     void applyVideo() override { calls << QStringLiteral("video"); }
     void applyAudio() override { calls << QStringLiteral("audio"); }

@@ -32,11 +32,13 @@ public:
 
     // ---- the engine
 
-    // The devices known by now; NormalSettingPage::slot_audioDevicesChanged() when more come to be known.
-    [[nodiscard]] virtual QList<SettingsAudioDevice> audioDevices() const { return {}; }
+    // The devices known by now. Asks for them where none is known, and the handler is told when they are.
+    [[nodiscard]] virtual QList<SettingsAudioDevice> audioDevices() { return {}; }
+    // Called on the GUI thread.
+    virtual void setAudioDevicesHandler(std::function<void()> handler) { Q_UNUSED(handler) }
     // Whether a form of 3D output (the number stored under PC_3DMode) works on this machine.
     [[nodiscard]] virtual bool supports3DMode(int) const { return true; }
-    // Hand what is stored to the engine; each follows a save.
+    // Hand what is stored to the engine, in the order of the calls; each follows a save.
     virtual void applyVideo() {}
     virtual void applyAudio() {}
     virtual void applySubtitle() {}

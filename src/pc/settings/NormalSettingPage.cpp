@@ -27,6 +27,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -77,6 +78,10 @@ NormalSettingPage::NormalSettingPage(SettingsManager &store, ISettingsHost &host
                              tr("The file associations were not changed."));
         },
         Qt::QueuedConnection);
+    host.setAudioDevicesHandler([page = QPointer<NormalSettingPage>(this)] {
+        if (page)
+            page->slot_audioDevicesChanged();
+    });
 }
 
 NormalSettingPage::~NormalSettingPage()

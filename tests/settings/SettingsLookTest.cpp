@@ -5,6 +5,7 @@
 
 #include "core/ApplicationInfoManager.h"
 #include "core/SettingsKeys.h"
+#include "settings/ElidedLine.h"
 #include "settings/NormalSettingPage.h"
 #include "settings/RadioMark.h"
 #include "settings/SettingsPageWidget.h"
@@ -118,6 +119,28 @@ protected:
 };
 
 } // namespace
+
+TEST_P(SettingsLookTest, ALongPathShowsBothItsEnds)
+{
+    const QString path = QStringLiteral("/media/a disc with a long name/Pictures/of all the years/2021");
+    ElidedLine line;
+    line.resize(Look::px(200), Look::px(34));
+    line.setText(path);
+    EXPECT_TRUE(line.shownText().startsWith(QLatin1String("/media")));
+    EXPECT_TRUE(line.shownText().endsWith(QLatin1String("2021")));
+    EXPECT_LE(line.fontMetrics().horizontalAdvance(line.shownText()), line.width());
+    EXPECT_FALSE(line.grab().isNull());
+    EXPECT_EQ(line.text(), path);
+    line.setText(QStringLiteral("/a"));
+    EXPECT_EQ(line.shownText(), QStringLiteral("/a"));
+    // Whoever writes in it sees what is written.
+    line.setText(path);
+    line.show();
+    QApplication::setActiveWindow(&line);
+    line.setFocus();
+    ASSERT_EVENTUALLY(line.hasFocus());
+    EXPECT_EQ(line.shownText(), path);
+}
 
 TEST_P(SettingsLookTest, EveryPageHasRoomForItsTexts)
 {

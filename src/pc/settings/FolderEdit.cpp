@@ -1,5 +1,6 @@
 #include "FolderEdit.h"
 
+#include "ElidedLine.h"
 #include "SettingsLook.h"
 
 #include "ui/LookTokens.h"
@@ -7,12 +8,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPushButton>
 
 FolderEdit::FolderEdit(QWidget *parent)
     : QWidget(parent)
-    , m_line(new QLineEdit(this))
+    , m_line(new ElidedLine(this))
     , m_button(new QPushButton(this))
 {
     m_line->setObjectName(QLatin1String(SettingsLook::Field));

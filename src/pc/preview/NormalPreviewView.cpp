@@ -465,8 +465,10 @@ void NormalPreviewView::arrange()
         right = place(group.text, right - Look::px(Gap), group.text->sizeHint()) - Look::px(GroupGap) / 2;
     }
     const QSize title = m_title->sizeHint();
-    m_title->setVisible(side + title.width() <= right);
-    m_title->setGeometry(side, down + (head - title.height()) / 2, title.width(), title.height());
+    // Above the first picture and not above the gap around it.
+    const int left = side + PreviewPlan::pictureRect({{0, 0}, m_cells.cell}, ratio).left();
+    m_title->setVisible(left + title.width() <= right);
+    m_title->setGeometry(left, down + (head - title.height()) / 2, title.width(), title.height());
 
     const QRect body(side, down + head, std::max(1, width() - 2 * side),
                      std::max(1, height() - head - Look::px(Foot)));

@@ -1,5 +1,6 @@
 #include "Screens.h"
 
+#include "FakeSettingsHost.h"
 #include "FilmFrame.h"
 #include "TestSettings.h"
 
@@ -19,6 +20,9 @@
 #include "preview/NormalPreviewPopView.h"
 #include "preview/NormalPreviewView.h"
 #include "preview/PreviewFetcher.h"
+#include "queue/NormalPlaylistView.h"
+#include "queue/QueueListView.h"
+#include "settings/NormalSettingPage.h"
 #include "start/NormalStartView.h"
 #include "transport/ThreeDMenu.h"
 #include "tv/TvStartWidget.h"
@@ -105,6 +109,14 @@ void settleMoving(QWidget &widget)
     loop.exec();
 }
 
+// Until what is shown has come to that; the rows and the slide of a panel come with events.
+template<class Condition>
+void settleUntil(Condition condition)
+{
+    while (!condition())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 } // namespace
 
 Screens::Screens(QString folder, int scale)
@@ -125,6 +137,8 @@ void Screens::drawAll()
     drawOtherDialogs();
     drawNotes();
     drawPreview();
+    drawPlaylist();
+    drawSettings();
     drawMenus();
     drawTv();
 }
@@ -283,6 +297,70 @@ void Screens::drawPreview()
         filling.exec();
     settle(pop);
     keepOverFilm(pop, QStringLiteral("preview-picture"));
+}
+
+void Screens::drawPlaylist()
+{
+    const QStringList sources{
+        QStringLiteral("/films/Northern Line (2021).mkv"),
+        QStringLiteral("/films/The Glass Harbour and the Long Way Home to the Sea (2019).mkv"),
+        QStringLiteral("/shows/Harbour/Harbour S01E01 High Water.mkv"),
+        QStringLiteral("/shows/Harbour/Harbour S01E02 Low Tide at the Northern Pier.mkv"),
+        QStringLiteral("/shows/Harbour/Harbour S01E03 The Lamp.mkv"),
+        QStringLiteral("/films/Lost/Paper Astronauts.mp4"),
+        QStringLiteral("/films/A Year of Small Rain"),
+        QStringLiteral("/films/Old Salt Road.avi"),
+        QStringLiteral("/music/Seven Quiet Rivers/01 Winter Engine.flac"),
+        QStringLiteral("/music/Seven Quiet Rivers/02 Slow Bridge.flac"),
+        QStringLiteral("/music/Live at the Pier/Concert.m4a"),
+        QStringLiteral("/films/Meridian.m2ts"),
+    };
+    TestSettings settings;
+    NormalPlaylistView::Services services;
+    services.queue.exists = [](const QString &path) { return !path.contains(QLatin1String("/Lost/")); };
+    services.queue.titles = [](const QString &, int) { return PlayerDisc(); };
+    NormalPlaylistView panel(*settings, services);
+    panel.setWindowFlag(Qt::FramelessWindowHint);
+    panel.setAttribute(Qt::WA_TranslucentBackground);
+    panel.resize(Look::px(NormalPlaylistView::designWidth()), Look::px(580));
+    panel.open();
+    panel.addSources(sources);
+    PlayQueue &queue = *panel.queue();
+    settleUntil([&] {
+        return queue.model()->sourceCount() == sources.size() && queue.model()->goneRows().size() == 1
+               && panel.cardRect().left() == 0;
+    });
+    queue.playRow(queue.model()->index(2));
+    panel.beginSource(sources.at(2));
+    panel.slot_setPlayStatus(QPlayer::QPlayerStatus_Playing);
+    panel.slot_setMetaInfo(QPlayer::QPlayerMetaType_Time, QStringLiteral("00:18:03 / 00:46:21"));
+    panel.list()->setCurrentIndex(queue.model()->index(3));
+    settle(panel);
+    keepOverFilm(panel, QStringLiteral("playlist"));
+}
+
+void Screens::drawSettings()
+{
+    TestSettings settings;
+    FakeSettingsHost host;
+    host.known.picturesFolder = QStringLiteral("/home/anna/Pictures/Quorin Player 6");
+    host.known.logFolder = QStringLiteral("/home/anna/Documents/Quorin Player 6/Log");
+    NormalSettingPage dialog(*settings, host);
+    dialog.prepare();
+    dialog.show();
+    // The screen of the offscreen platform is small.
+    dialog.resize(Look::px(880), Look::px(704));
+    const struct {
+        SettingsPageId page;
+        const char *name;
+    } pages[] = {{SettingsPageId::General, "settings-general"},
+                 {SettingsPageId::Audio, "settings-audio"},
+                 {SettingsPageId::Subtitle, "settings-subtitles"}};
+    for (const auto &each : pages) {
+        dialog.slot_changeTabPage(int(each.page));
+        QApplication::processEvents();
+        keepOverFilm(dialog, QLatin1String(each.name));
+    }
 }
 
 void Screens::drawMenus()

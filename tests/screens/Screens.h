@@ -22,6 +22,8 @@ private:
     void drawOtherDialogs();
     void drawNotes();
     void drawPreview();
+    void drawPlaylist();
+    void drawSettings();
     void drawMenus();
     void drawTv();
 

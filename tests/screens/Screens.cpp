@@ -6,6 +6,7 @@
 
 #include "app/ModeSelectView.h"
 #include "core/ApplicationInfoManager.h"
+#include "dialogs/DialogLook.h"
 #include "dialogs/DialogSlider.h"
 #include "dialogs/IPictureControl.h"
 #include "dialogs/NormalAboutDLg.h"
@@ -410,6 +411,13 @@ void Screens::drawTv()
 
 void Screens::keepOverFilm(QWidget &widget, const QString &name)
 {
+    // The offscreen platform has no compositor; users mostly have one, and round corners with it.
+    if (auto *panel = widget.findChild<QFrame *>(QLatin1String(DialogLook::Panel))) {
+        widget.setAttribute(Qt::WA_TranslucentBackground);
+        panel->setProperty("blended", true);
+        widget.setStyleSheet(widget.styleSheet());
+        QApplication::processEvents();
+    }
     const int around = Look::px(32);
     const QSize size = widget.size() + QSize(2 * around, 2 * around);
     QImage image = FilmFrame::make(size.expandedTo(QSize(Look::px(640), Look::px(360))));

@@ -7,6 +7,8 @@
 #include "transport/NormalOperateBar.h"
 #include "transport/NormalProgressBar.h"
 #include "transport/TransportButton.h"
+#include "transport/VolumeControl.h"
+#include "transport/VolumeSlider.h"
 
 #include <QSignalSpy>
 #include <QTest>

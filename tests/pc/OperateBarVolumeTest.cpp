@@ -1,8 +1,6 @@
 // The volume on the bar of controls.
 #include "OperateBar.h"
 
-#include "transport/VolumeControl.h"
-
 #include "core/SettingsKeys.h"
 
 TEST_F(OperateBars, AVolumeKeyAtTheTopShowsHundred)

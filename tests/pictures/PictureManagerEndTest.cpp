@@ -1,4 +1,5 @@
 // The end of a list and of the program, with requests under way and from other threads.
+#include "HeardRows.h"
 #include "TestPictures.h"
 
 #include "pictures/PictureLane.h"
@@ -7,7 +8,6 @@
 #include "support/Eventually.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -52,18 +52,18 @@ TEST_F(PictureManagerEndTest, ClearingForgetsWhatIsThereAndWhatWaits)
     EXPECT_EQ(manager.requestPoster(2, kOther), nullptr);
     ASSERT_TRUE(m_server.waitForFetches(2));
     manager.clearAll();
-    QSignalSpy rows(&manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
+    HeardRows rows(manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
     put(kOther);
     EXPECT_EQ(manager.requestPoster(5, kKey), nullptr);
     ASSERT_EVENTUALLY(rows.count() == 1);
-    EXPECT_EQ(rows.at(0).at(0).toInt(), 5);
+    EXPECT_EQ(rows.at(0), 5);
     EXPECT_EQ(m_server.addresses().count(PosterLoader::address(kKey)), 2);
 }
 
 TEST_F(PictureManagerEndTest, APictureThatComesAfterClearingIsForNobody)
 {
     PictureManager manager(m_server.sources(), milliseconds(10));
-    QSignalSpy rows(&manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
+    HeardRows rows(manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
     put(kKey);
     put(kOther);
     m_server.hold();
@@ -74,7 +74,7 @@ TEST_F(PictureManagerEndTest, APictureThatComesAfterClearingIsForNobody)
     EXPECT_EQ(manager.requestPoster(4, kKey), nullptr);
     m_server.release();
     ASSERT_EVENTUALLY(rows.count() == 1);
-    EXPECT_EQ(rows.at(0).at(0).toInt(), 4);
+    EXPECT_EQ(rows.at(0), 4);
     EXPECT_EQ(m_server.addresses().size(), 2);
 }
 
@@ -130,7 +130,7 @@ TEST_F(PictureManagerEndTest, TheEndLeavesTheRestOfARound)
 TEST_F(PictureManagerEndTest, AnotherThreadGetsNoPixmapButThePictureComes)
 {
     PictureManager manager(m_server.sources(), milliseconds(10));
-    QSignalSpy rows(&manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
+    HeardRows rows(manager, qOverload<int>(&PictureManager::sig_pictureLoaded));
     put(kKey);
     QPixmap *first = nullptr;
     QPixmap *now = nullptr;
@@ -142,7 +142,7 @@ TEST_F(PictureManagerEndTest, AnotherThreadGetsNoPixmapButThePictureComes)
     EXPECT_EQ(first, nullptr);
     EXPECT_EQ(now, nullptr);
     ASSERT_EVENTUALLY(rows.count() == 1);
-    EXPECT_EQ(rows.at(0).at(0).toInt(), 3);
+    EXPECT_EQ(rows.at(0), 3);
 }
 
 TEST_F(PictureManagerEndTest, RequestsAndClearingFromSeveralThreadsMeet)

@@ -24,7 +24,7 @@ QByteArray head(const StandInServer::Reply &reply, int promised)
 int agreement(const QByteArray &question, const QByteArray &path, const QList<QByteArray> &items)
 {
     const int mark = question.indexOf('?');
-    if (question.left(mark) != path)
+    if ((mark < 0 ? question : question.left(mark)) != path)
         return -1;
     if (mark < 0)
         return 0;

@@ -82,7 +82,7 @@ TEST_F(MetadataRoundTest, WithoutAProviderNothingIsAskedAndNothingMarked)
 
 TEST_F(MetadataRoundTest, AFilmIsDescribedWithItsCollection)
 {
-    videos.addWanted(1, false, QStringLiteral("STALKER"), 1980);
+    videos.addWanted(1, false, QStringLiteral("Stalker"), 1980);
     EXPECT_TRUE(round().run());
     const auto stored = videos.describedMovies.value(1);
     EXPECT_EQ(stored.description.identities.value("tmdb"), "1398");

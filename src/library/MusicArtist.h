@@ -1,0 +1,11 @@
+// One artist of the music library, with the ids of the songs. The key is the name.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct MusicArtist {
+    QString name;
+    QString poster;
+    QStringList songs;
+};

@@ -1,0 +1,130 @@
+#include "ServerLink.h"
+
+#include "BucketStatistics.h"
+#include "IServerStarter.h"
+#include "LibraryPause.h"
+#include "LibraryRoots.h"
+#include "LibrarySignals.h"
+#include "MusicProtocol.h"
+#include "VideoProtocol.h"
+
+#include "core/SettingsManager.h"
+
+#include <QDebug>
+#include <QJsonObject>
+
+namespace {
+
+constexpr int kStartMs = 30000;
+constexpr int kSecondTryMs = 2000;
+constexpr int kBeatMs = 3000;
+
+} // namespace
+
+ServerLink::ServerLink(const Parts &parts, IServerStarter &starter, QString program, QString dataFolder,
+                       std::function<void()> startHeartbeat)
+    : m_parts(parts)
+    , m_starter(starter)
+    , m_program(std::move(program))
+    , m_dataFolder(std::move(dataFolder))
+    , m_startHeartbeat(std::move(startHeartbeat))
+{
+}
+
+void ServerLink::startUp()
+{
+    if (m_starter.isHeld())
+        return;
+    const std::optional<bool> plainStart = startServer();
+    if (m_parts.pause.isEnding())
+        return;
+    askForFolders();
+    m_startHeartbeat();
+    if (plainStart)
+        qInfo().noquote() << QStringLiteral("[MS Path] use normal path: %1").arg(int(*plainStart));
+    setReady();
+    applyProxy();
+    emit m_parts.notices.sig_meidaServerPathLoaded();
+}
+
+std::optional<bool> ServerLink::startServer()
+{
+    const bool isStarted = m_starter.start(m_program, m_dataFolder, kStartMs);
+    askForLibraries();
+    const auto isUnknown = [this] { return m_parts.roots.id(LibraryRoots::Video) == LibraryRoots::Unknown; };
+    if (isStarted && isUnknown()) {
+        // A program that has just been started may not listen yet.
+        if (!m_parts.pause.wait(kSecondTryMs))
+            return std::nullopt;
+        askForLibraries();
+    }
+    if (!isUnknown() || m_parts.pause.isEnding())
+        return std::nullopt;
+    const bool isPlainStarted = m_starter.startPlain(m_program);
+    askForLibraries();
+    return isPlainStarted;
+}
+
+void ServerLink::askForLibraries()
+{
+    if (const auto id = m_parts.video.libraryId())
+        m_parts.roots.setId(LibraryRoots::Video, *id);
+    if (const auto id = m_parts.music.libraryId())
+        m_parts.roots.setId(LibraryRoots::Music, *id);
+}
+
+void ServerLink::askForFolders()
+{
+    LibraryRoots &roots = m_parts.roots;
+    if (const auto folders = m_parts.video.folders(roots.id(LibraryRoots::Video)))
+        roots.setFolders(LibraryRoots::Video, *folders);
+    if (const auto folders = m_parts.music.folders(roots.id(LibraryRoots::Music)))
+        roots.setFolders(LibraryRoots::Music, *folders);
+}
+
+void ServerLink::beat()
+{
+    do {
+        const VideoProtocol::Pulse pulse = m_parts.video.heartbeat();
+        m_isScanFinished = pulse.isScanFinished;
+        if (pulse.isScraperFinished)
+            m_parts.statistics.reportServer(m_parts.music.statistics());
+        emit m_parts.notices.sig_updateHeartBeat();
+    } while (m_parts.pause.wait(kBeatMs));
+}
+
+void ServerLink::applyProxy() const
+{
+    const SettingsManager &settings = m_parts.settings;
+    if (!settings.proxyEnable()) {
+        m_parts.video.cancelProxy();
+        return;
+    }
+    m_parts.video.setProxy(
+        {settings.proxyHost(), settings.proxyPort(), settings.proxyUserName(), settings.proxyPasswd()});
+}
+
+void ServerLink::setReady()
+{
+    {
+        std::lock_guard lock(m_mutex);
+        m_isReady = true;
+    }
+    m_readyOrEnding.notify_all();
+}
+
+bool ServerLink::waitUntilReady()
+{
+    std::unique_lock lock(m_mutex);
+    m_readyOrEnding.wait(lock, [this] { return m_isReady || m_isEnding; });
+    return !m_isEnding;
+}
+
+void ServerLink::end()
+{
+    {
+        std::lock_guard lock(m_mutex);
+        m_isEnding = true;
+    }
+    m_readyOrEnding.notify_all();
+}

@@ -144,10 +144,7 @@ void StartupServices::loadLanguage()
 {
     auto *store = SettingsManager::instance();
     store->setSystemLanguageReader(systemLanguage);
-    auto *languages = LanguageManager::instance();
-    languages->setMediaServerLanguageSink(
-        [](const QString &word) { MediaServerManager::instance()->setScraperLanguage(word); });
-    languages->load(store->language());
+    LanguageManager::instance()->load(store->language());
 }
 
 // ---- maintenance
@@ -262,8 +259,18 @@ std::optional<bool> StartupServices::askMode()
     return view.isPcChosen();
 }
 
+void StartupServices::startLibrary()
+{
+    // The first call starts the server: a run that only hands its file to another copy, or only installs, has
+    // no use for one.
+    const auto tell = [](const QString &word) { MediaServerManager::instance()->setScraperLanguage(word); };
+    LanguageManager::instance()->setMediaServerLanguageSink(tell);
+    tell(LanguageManager::localeWord(SettingsManager::instance()->language()));
+}
+
 void StartupServices::startBackgroundThread()
 {
+    startLibrary();
     auto *store = SettingsManager::instance();
     BackgroundStart::instance()->start(
         {storedProxy, [](const ProxyConfiguration &proxy) { WebServiceManager::instance()->setProxy(proxy); },
@@ -334,7 +341,9 @@ int StartupServices::runEventLoop()
 {
     if (m_termination->isRequested())
         QTimer::singleShot(0, m_window, &QWidget::close);
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    MediaServerManager::killServerProcess();
+    return exitCode;
 }
 
 // ---- the end

@@ -59,6 +59,7 @@ public:
     void destroyApplication() override;
 
 private:
+    void startLibrary();
     [[nodiscard]] static MaintenanceRuns maintenance();
     void watchTermination();
 

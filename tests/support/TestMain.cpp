@@ -54,6 +54,8 @@ int main(int argc, char **argv)
     testing::InitGoogleTest(&argc, argv);
     QTemporaryDir home;
     moveHomeTo(home.path());
+    // No test starts a media server by the way, nor does a player that it starts.
+    qputenv("QUORIN_NO_LIBRARY", "1");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsEmpty("QUORIN_TEST_DISPLAY") ? "offscreen" : "xcb");
     TestLog::install();

@@ -4,6 +4,7 @@ namespace {
 
 constexpr char kInstallMode[] = "--installmode";
 constexpr char kAddPlan[] = "/add_plan";
+constexpr char kLibrary[] = "--library";
 
 struct MaintenanceRow {
     const char *argument;
@@ -33,6 +34,12 @@ CommandLine::CommandLine(const QStringList &arguments)
     : m_arguments(arguments)
 {
     m_arguments.removeAll(QLatin1String(kInstallMode));
+    const int option = m_arguments.indexOf(QLatin1String(kLibrary), 1);
+    if (option < 0)
+        return;
+    m_libraryFolder = m_arguments.value(option + 1);
+    m_arguments.erase(m_arguments.begin() + option,
+                      m_arguments.begin() + qMin(option + 2, m_arguments.size()));
 }
 
 CommandLine::Maintenance CommandLine::maintenance() const

@@ -13,13 +13,16 @@ public:
 
     explicit CommandLine(const QStringList &arguments);
 
-    // The list less what only marks a start by the installer.
+    // The list less what only marks a start by the installer, and less "--library FOLDER".
     [[nodiscard]] const QStringList &arguments() const { return m_arguments; }
 
     [[nodiscard]] Maintenance maintenance() const;
 
     // Whether the user joins the improvement plan; means something in an install run only.
     [[nodiscard]] bool joinsPlan() const;
+
+    // The folder that is to join the media library; empty without one.
+    [[nodiscard]] const QString &libraryFolder() const { return m_libraryFolder; }
 
     [[nodiscard]] bool hasFileArgument() const { return m_arguments.size() >= 2; }
     // The first argument after the program path; empty without one.
@@ -32,4 +35,5 @@ private:
     [[nodiscard]] bool anyContains(const char *word) const;
 
     QStringList m_arguments;
+    QString m_libraryFolder;
 };

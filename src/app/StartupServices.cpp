@@ -2,6 +2,7 @@
 
 #include "BackgroundStart.h"
 #include "Banner.h"
+#include "LibraryStart.h"
 #include "MaintenanceRuns.h"
 #include "ModeSelectView.h"
 #include "ScreenSaverRule.h"
@@ -51,6 +52,8 @@ constexpr char kChannel[] = "Official";
 constexpr int kBuildYear = 2020;
 constexpr int kBuildMonth = 7;
 constexpr int kBuildDay = 15;
+// The window and the first picture of a film go before the server.
+constexpr int kLibraryDelayMs = 1000;
 
 QString resourceFile()
 {
@@ -127,7 +130,9 @@ QStringList StartupServices::createApplication()
         PlayInfoStatisticsHelper::instance()->setSource(PlayInfoStatisticsHelper::Source::OutOfPlayer);
     });
     watchTermination();
-    return QCoreApplication::arguments();
+    const QStringList arguments = QCoreApplication::arguments();
+    m_libraryFolder = CommandLine(arguments).libraryFolder();
+    return arguments;
 }
 
 void StartupServices::watchTermination()
@@ -261,11 +266,15 @@ std::optional<bool> StartupServices::askMode()
 
 void StartupServices::startLibrary()
 {
-    // The first call starts the server: a run that only hands its file to another copy, or only installs, has
-    // no use for one.
-    const auto tell = [](const QString &word) { MediaServerManager::instance()->setScraperLanguage(word); };
+    m_library = std::make_unique<LibraryStart>(
+        []() -> MediaServerManager & { return *MediaServerManager::instance(); });
+    const auto tell = [this](const QString &word) {
+        if (m_library)
+            m_library->setLanguage(word);
+    };
     LanguageManager::instance()->setMediaServerLanguageSink(tell);
     tell(LanguageManager::localeWord(SettingsManager::instance()->language()));
+    QTimer::singleShot(kLibraryDelayMs, m_library.get(), [this] { m_library->begin(m_libraryFolder); });
 }
 
 void StartupServices::startBackgroundThread()
@@ -342,6 +351,7 @@ int StartupServices::runEventLoop()
     if (m_termination->isRequested())
         QTimer::singleShot(0, m_window, &QWidget::close);
     const int exitCode = QApplication::exec();
+    m_library.reset();
     MediaServerManager::killServerProcess();
     return exitCode;
 }

@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class LibraryStart;
 class MaintenanceRuns;
 class SingleApplication;
 class SingleInstance;
@@ -68,5 +69,7 @@ private:
     std::unique_ptr<SingleApplication> m_application;
     std::unique_ptr<SingleInstance> m_guard;
     std::unique_ptr<TerminationSignal> m_termination;
+    std::unique_ptr<LibraryStart> m_library;
+    QString m_libraryFolder;
     QPointer<QWidget> m_window;
 };

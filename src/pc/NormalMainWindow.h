@@ -126,6 +126,8 @@ private:
     void makeViews();
     void makeMenu();
     void makePlayMenu();
+    // Asks what a folder that joins the library holds.
+    [[nodiscard]] bool isAdultFolder();
     void connectParts();
     void connectTitleBar(NormalTitleBar *titleBar);
     void connectBar();

@@ -2,6 +2,7 @@
 #include "NormalMainWindow.h"
 
 #include "NormalPlayControl.h"
+#include "PcLibraryPaths.h"
 #include "PcSettingsHost.h"
 #include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalMessageBoxFactory.h"
@@ -16,8 +17,10 @@
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
 #include "keys/AppEventFilter.h"
+#include "library/MediaServerManager.h"
 #include "online/PlayInfoStatisticsHelper.h"
 #include "platform/ScreenSaver.h"
+#include "playcontrol/BehaviourNames.h"
 #include "playcontrol/ErrorNote.h"
 #include "playcontrol/MenuCase.h"
 #include "playcontrol/PlayFailure.h"
@@ -29,13 +32,12 @@
 
 namespace {
 
-constexpr char kUserBehaviour[] = "UserBehaviour";
 constexpr char kSubtitleFilter[] = QT_TRANSLATE_NOOP("NormalMainWindow", "Subtitle Files (%1)");
 } // namespace
 
 void NormalMainWindow::noteBehaviour(const QString &name, const QString &value)
 {
-    PlayInfoStatisticsHelper::instance()->note(QLatin1String(kUserBehaviour), name, value);
+    PlayInfoStatisticsHelper::instance()->note(QLatin1String(BehaviourNames::UserBehaviour), name, value);
 }
 
 void NormalMainWindow::makePlayMenu()
@@ -68,6 +70,20 @@ void NormalMainWindow::makePlayMenu()
     m_discs = new OpticalDiscs(this);
     m_discs->refresh();
     m_settingsHost = std::make_unique<PcSettingsHost>(m_settings, [this] { return m_player; });
+    m_settingsHost->setLibrary([this] {
+        return std::make_unique<PcLibraryPaths>(*MediaServerManager::instance(),
+                                                [this] { return isAdultFolder(); });
+    });
+}
+
+bool NormalMainWindow::isAdultFolder()
+{
+    NormalMessageBox box(m_settingPage ? m_settingPage->window() : this);
+    box.setText(tr("To add to the library, please specify the library type for the directory."));
+    const int common = box.addButton(tr("Movies & TV Shows"));
+    const int adult = box.addButton(tr("Adult"));
+    box.setDefaultButton(common);
+    return box.exec() == adult;
 }
 
 void NormalMainWindow::slot_showInitFailDialog()

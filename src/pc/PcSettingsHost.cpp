@@ -133,3 +133,10 @@ bool PcSettingsHost::startProgram(const QString &commandLine)
     QStringList parts = QProcess::splitCommand(commandLine);
     return !parts.isEmpty() && QProcess::startDetached(parts.takeFirst(), parts);
 }
+
+ILibraryPaths *PcSettingsHost::library()
+{
+    if (!m_library && m_makeLibrary)
+        m_library = m_makeLibrary();
+    return m_library.get();
+}

@@ -36,6 +36,10 @@ public:
     void openSystemSettings() override;
     bool startProgram(const QString &commandLine) override;
 
+    // Makes the library's folders when they are first asked for.
+    void setLibrary(std::function<std::unique_ptr<ILibraryPaths>()> make) { m_makeLibrary = std::move(make); }
+    [[nodiscard]] ILibraryPaths *library() override;
+
 private:
     // One group of the stored preferences, on the worker.
     void apply(void (*group)(EnginePreferences &));
@@ -44,6 +48,8 @@ private:
     SettingsManager &m_settings;
     std::function<QPlayer *()> m_player;
     std::function<void()> m_devicesHandler;
+    std::function<std::unique_ptr<ILibraryPaths>()> m_makeLibrary;
+    std::unique_ptr<ILibraryPaths> m_library;
     bool m_isAskingDevices{false};
     std::unique_ptr<ThreadWorker> m_desktop;
     std::unique_ptr<ThreadWorker> m_engine;

@@ -22,6 +22,6 @@ struct PictureSources {
     // The file or folder that stands on the disc for the path of a library item. The path itself without it.
     std::function<QString(const QString &path)> resolvePath;
 
-    // The engine's pictures; nothing else is known before the library is there.
+    // The engine's pictures, the server's posters and the library's songs.
     [[nodiscard]] static PictureSources ofProgram();
 };

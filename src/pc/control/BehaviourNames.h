@@ -3,6 +3,9 @@
 
 namespace BehaviourNames {
 
+// The group that all of them are counted in.
+inline constexpr char UserBehaviour[] = "UserBehaviour";
+
 inline constexpr char FastUsed[] = "FastUsed";
 inline constexpr char RewindUsed[] = "RewindUsed";
 inline constexpr char LastChapterUsed[] = "LastChapterUsed";
@@ -13,7 +16,9 @@ inline constexpr char PlaylistUsed[] = "PlaylistUsed";
 // Pictures of the source were asked for: of a plain file, and of any other source.
 inline constexpr char NormalFileSmartViewUsed[] = "NormalFileSmartViewUsed";
 inline constexpr char OtherFileSmartViewUsed[] = "OtherFileSmartViewUsed";
-// Value of each of them.
+// A folder joined the media library; the value is what it holds.
+inline constexpr char LibraryPathAdded[] = "LibraryPathAdded";
+// Value of the others.
 inline constexpr char Used[] = "true";
 
 } // namespace BehaviourNames

@@ -1,0 +1,211 @@
+#include "FileTable.h"
+
+#include "Connection.h"
+#include "Containers.h"
+
+namespace {
+
+// The first text after all that begin with "folder/": the character after the slash stands in its place.
+QString endOf(const QString &folder)
+{
+    return folder + QLatin1Char('0');
+}
+
+// As a folder that others are appended to; the root of a file system ends with its slash already.
+QString bare(const QString &folder)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder.chopped(1) : folder;
+}
+
+} // namespace
+
+FileTable::FileTable(const QString &name, const QString &track, const QStringList &containers)
+    : m_name(name)
+    , m_track(track)
+    , m_select(QStringLiteral("SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since FROM %2 ")
+                   .arg(track, name))
+    , m_containers(containers.join(QStringLiteral(", ")))
+    , m_isVideos(containers.size() > 1)
+{
+}
+
+const FileTable &FileTable::videos()
+{
+    static const FileTable table(QStringLiteral("items"), QStringLiteral("-1"),
+                                 {QStringLiteral("show_id"), QStringLiteral("group_id")});
+    return table;
+}
+
+const FileTable &FileTable::songs()
+{
+    static const FileTable table(QStringLiteral("songs"), QStringLiteral("track"), {QStringLiteral("album_id")});
+    return table;
+}
+
+bool FileTable::isBelow(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(bare(folder) + QLatin1Char('/'));
+}
+
+FileRow FileTable::read(const Statement &statement)
+{
+    FileRow row;
+    row.id = statement.integer(0);
+    row.folder = statement.text(1);
+    row.path = statement.text(2);
+    row.suffix = statement.text(3);
+    row.track = statement.integer(4);
+    row.stamp = {statement.number(5), statement.number(6)};
+    row.added = statement.number(7);
+    row.seen = statement.number(8);
+    row.missing = statement.number(9) != 0;
+    return row;
+}
+
+QVector<FileRow> FileTable::readAll(Statement *statement)
+{
+    QVector<FileRow> rows;
+    while (statement->next())
+        rows << read(*statement);
+    return rows;
+}
+
+FileRow FileTable::row(Connection &connection, int id) const
+{
+    Statement statement = connection.prepare(m_select + QStringLiteral("WHERE id = ?"));
+    return statement.run(id) && statement.next() ? read(statement) : FileRow();
+}
+
+FileRow FileTable::at(Connection &connection, const QString &path, int track) const
+{
+    Statement statement =
+        connection.prepare(m_select + QStringLiteral("WHERE path = ? AND %1 = ?").arg(m_track));
+    return statement.run(path, track) && statement.next() ? read(statement) : FileRow();
+}
+
+QVector<FileRow> FileTable::inFolder(Connection &connection, int root, const QString &folder) const
+{
+    Statement statement = connection.prepare(m_select + QStringLiteral("WHERE folder = ? AND root = ?"));
+    return statement.run(folder, root) ? readAll(&statement) : QVector<FileRow>();
+}
+
+QVector<FileRow> FileTable::alike(Connection &connection, const FileRow &file, bool missing) const
+{
+    if (file.stamp.size <= 0)
+        return {};
+    Statement statement = connection.prepare(
+        m_select
+        + QStringLiteral("WHERE size = ? AND modified = ? AND suffix = ? AND %1 = ? AND missing_since %2 0")
+              .arg(m_track, missing ? QStringLiteral(">") : QStringLiteral("=")));
+    if (!statement.run(file.stamp.size, file.stamp.modifiedMs, file.suffix, file.track))
+        return {};
+    return readAll(&statement);
+}
+
+QVector<FileRow> FileTable::below(Connection &connection, int root, const QString &folder) const
+{
+    if (folder.isEmpty()) {
+        Statement statement = connection.prepare(m_select + QStringLiteral("WHERE root = ? AND missing_since = 0"));
+        return statement.run(root) ? readAll(&statement) : QVector<FileRow>();
+    }
+    Statement statement = connection.prepare(
+        m_select
+        + QStringLiteral("WHERE (folder = ? OR (folder >= ? AND folder < ?)) AND root = ? AND missing_since = 0"));
+    const QString name = bare(folder);
+    return statement.run(folder, QString(name + QLatin1Char('/')), endOf(name), root) ? readAll(&statement)
+                                                                                     : QVector<FileRow>();
+}
+
+bool FileTable::noteContainers(Connection &connection, int id, Containers *containers) const
+{
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT %1 FROM %2 WHERE id = ?").arg(m_containers, m_name));
+    if (!statement.run(id))
+        return false;
+    while (statement.next()) {
+        if (m_isVideos)
+            containers->addVideo(statement.integer(0), statement.integer(1));
+        else
+            containers->addAlbum(statement.integer(0));
+    }
+    return true;
+}
+
+bool FileTable::hide(Connection &connection, const QVector<FileRow> &rows, qint64 now,
+                     Containers *containers) const
+{
+    for (const FileRow &row : rows) {
+        Statement hide =
+            connection.prepare(QStringLiteral("UPDATE %1 SET missing_since = ? WHERE id = ?").arg(m_name));
+        if (!noteContainers(connection, row.id, containers) || !hide.run(now, row.id))
+            return false;
+    }
+    return true;
+}
+
+bool FileTable::hideRoot(Connection &connection, int root, qint64 now) const
+{
+    Containers containers;
+    return hide(connection, below(connection, root), now, &containers) && containers.refresh(connection);
+}
+
+bool FileTable::hideAll(Connection &connection, qint64 now) const
+{
+    QVector<FileRow> present;
+    {
+        Statement statement = connection.prepare(m_select + QStringLiteral("WHERE missing_since = 0"));
+        if (!statement.run())
+            return false;
+        present = readAll(&statement);
+    }
+    Containers containers;
+    return hide(connection, present, now, &containers)
+        && connection.execute(QStringLiteral("UPDATE %1 SET scanned = ''").arg(m_name))
+        && containers.refresh(connection);
+}
+
+bool FileTable::moveToRoot(Connection &connection, int from, int to, const QString &folder) const
+{
+    const QString name = bare(folder);
+    return connection
+        .prepare(QStringLiteral("UPDATE %1 SET root = ? WHERE root = ? "
+                                "AND (folder = ? OR (folder >= ? AND folder < ?))")
+                     .arg(m_name))
+        .run(to, from, folder, QString(name + QLatin1Char('/')), endOf(name));
+}
+
+bool FileTable::dropMissing(Connection &connection, int root, qint64 before) const
+{
+    return connection
+        .prepare(QStringLiteral("DELETE FROM %1 WHERE missing_since > 0 AND missing_since < ? "
+                                "AND (root = ? OR root NOT IN (SELECT id FROM roots))")
+                     .arg(m_name))
+        .run(before, root);
+}
+
+bool FileTable::remove(Connection &connection, const FileRow &row, Containers *containers) const
+{
+    return noteContainers(connection, row.id, containers)
+        && connection
+               .prepare(QStringLiteral("INSERT INTO removed (path, track, size, modified) VALUES (?, ?, ?, ?) "
+                                       "ON CONFLICT (path, track) DO UPDATE "
+                                       "SET size = excluded.size, modified = excluded.modified"))
+               .run(row.path, row.track, row.stamp.size, row.stamp.modifiedMs)
+        && connection.prepare(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(m_name)).run(row.id);
+}
+
+bool FileTable::isRemoved(Connection &connection, const FileRow &file)
+{
+    FileStamp stamp;
+    {
+        Statement statement =
+            connection.prepare(QStringLiteral("SELECT size, modified FROM removed WHERE path = ? AND track = ?"));
+        if (!statement.run(file.path, file.track) || !statement.next())
+            return false;
+        stamp = {statement.number(0), statement.number(1)};
+    }
+    if (stamp == file.stamp)
+        return true;
+    connection.prepare(QStringLiteral("DELETE FROM removed WHERE path = ? AND track = ?")).run(file.path, file.track);
+    return false;
+}

@@ -1,0 +1,69 @@
+// What the tables of videos and of songs have in common: rows that stand for files, which appear, move and go missing.
+// A missing file's row is hidden and kept. All operations run within a transaction of the writer.
+#pragma once
+
+#include "records/ScanRecords.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class Connection;
+class Containers;
+class Statement;
+
+struct FileRow {
+    int id{0};
+    QString folder;
+    QString path;
+    QString suffix;
+    int track{-1};
+    FileStamp stamp;
+    qint64 added{0};
+    qint64 seen{0}; // when a scan last found it
+    bool missing{false};
+};
+
+class FileTable final {
+public:
+    [[nodiscard]] static const FileTable &videos();
+    [[nodiscard]] static const FileTable &songs();
+    // Whether the path is the folder or lies in it, at any depth.
+    [[nodiscard]] static bool isBelow(const QString &path, const QString &folder);
+
+    [[nodiscard]] QString name() const { return m_name; }
+    [[nodiscard]] FileRow at(Connection &connection, const QString &path, int track) const;
+    [[nodiscard]] QVector<FileRow> inFolder(Connection &connection, int root, const QString &folder) const;
+    // Rows, missing or present ones, of files that look the same: size, time, suffix and track. None for empty files.
+    [[nodiscard]] QVector<FileRow> alike(Connection &connection, const FileRow &file, bool missing) const;
+    // The present rows of a root's folder and of all below it; of the whole root without a folder.
+    [[nodiscard]] QVector<FileRow> below(Connection &connection, int root, const QString &folder = {}) const;
+
+    [[nodiscard]] bool hide(Connection &connection, const QVector<FileRow> &rows, qint64 now,
+                            Containers *containers) const;
+    [[nodiscard]] bool hideRoot(Connection &connection, int root, qint64 now) const;
+    // Hides everything and forgets what was scanned of it, so that it is read again.
+    [[nodiscard]] bool hideAll(Connection &connection, qint64 now) const;
+    // What lies below the folder belongs to the other root from now on.
+    [[nodiscard]] bool moveToRoot(Connection &connection, int from, int to, const QString &folder) const;
+    // Rows of the root, and of roots that are no more, that were missing before the time.
+    [[nodiscard]] bool dropMissing(Connection &connection, int root, qint64 before) const;
+
+    // Takes the row out for good; the file stays out as long as it does not change.
+    [[nodiscard]] bool remove(Connection &connection, const FileRow &row, Containers *containers) const;
+    [[nodiscard]] FileRow row(Connection &connection, int id) const;
+    // Whether a user took the unchanged file out. One that has changed is forgotten and may come again.
+    [[nodiscard]] static bool isRemoved(Connection &connection, const FileRow &file);
+
+private:
+    FileTable(const QString &name, const QString &track, const QStringList &containers);
+    [[nodiscard]] static FileRow read(const Statement &statement);
+    [[nodiscard]] static QVector<FileRow> readAll(Statement *statement);
+    [[nodiscard]] bool noteContainers(Connection &connection, int id, Containers *containers) const;
+
+    QString m_name;
+    QString m_track; // the column, or what stands for it
+    QString m_select;
+    QString m_containers; // the columns of the ids that are counted over the rows
+    bool m_isVideos;
+};

@@ -1,0 +1,97 @@
+#include "SongWriter.h"
+
+#include "Connection.h"
+#include "Counters.h"
+#include "StoredJson.h"
+#include "TextFold.h"
+#include "TextLists.h"
+
+#include <QSet>
+
+SongWriter::SongWriter(Connection &connection)
+    : m_connection(connection)
+{
+}
+
+bool SongWriter::write(SongRow *row)
+{
+    m_containers.addAlbum(row->albumId);
+    row->describe();
+    if (!findAlbum(row))
+        return false;
+    m_containers.addAlbum(row->albumId);
+    return SongRow::table().write(m_connection, *row)
+        && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist))
+        && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre));
+}
+
+bool SongWriter::findAlbum(SongRow *row)
+{
+    row->albumId = 0;
+    if (row->album.trimmed().isEmpty())
+        return true;
+    const QString albumArtist = StoredJson::song(row->scanned).albumArtist;
+    const QString artist = albumArtist.trimmed().isEmpty() ? row->artist : albumArtist;
+    const QString key = TextFold::nameKey(artist) + QLatin1Char('\n') + TextFold::nameKey(row->album);
+    {
+        Statement known = m_connection.prepare(QStringLiteral("SELECT id FROM albums WHERE album_key = ?"));
+        if (!known.run(key))
+            return false;
+        if (known.next()) {
+            row->albumId = known.integer(0);
+            return true;
+        }
+    }
+    row->albumId = static_cast<int>(Counters::take(m_connection, QStringLiteral("albums")));
+    const QString folded = TextFold::folded(row->album);
+    return row->albumId > 0
+        && m_connection
+               .prepare(QStringLiteral("INSERT INTO albums (id, songs, year, added, sort_title, album_key, title, "
+                                       "search, artist, genre, poster, user_poster) "
+                                       "VALUES (?, 0, 0, 0, ?, ?, ?, ?, ?, '', '', '')"))
+               .run(row->albumId, folded, key, row->album, folded, artist);
+}
+
+bool SongWriter::writeNames(const QString &table, int song, const QStringList &names)
+{
+    if (!m_connection.prepare(QStringLiteral("DELETE FROM %1 WHERE song_id = ?").arg(table)).run(song))
+        return false;
+    QSet<QString> written;
+    for (const QString &name : names) {
+        const QString key = TextFold::nameKey(name);
+        if (written.contains(key))
+            continue;
+        written.insert(key);
+        if (!m_connection
+                 .prepare(QStringLiteral("INSERT INTO %1 (song_id, name_key, name) VALUES (?, ?, ?)").arg(table))
+                 .run(song, key, name))
+            return false;
+    }
+    return true;
+}
+
+bool SongWriter::inherit(int from, int to)
+{
+    return m_connection
+               .prepare(QStringLiteral("UPDATE songs SET liked = 1 WHERE id = ? "
+                                       "AND EXISTS (SELECT 1 FROM songs AS other WHERE other.id = ? "
+                                       "AND other.liked = 1)"))
+               .run(to, from)
+        && m_connection
+               .prepare(QStringLiteral("UPDATE playlist_songs SET song_id = ? WHERE song_id = ? "
+                                       "AND playlist_id NOT IN "
+                                       "(SELECT playlist_id FROM playlist_songs WHERE song_id = ?)"))
+               .run(to, from, to)
+        && m_connection
+               .prepare(QStringLiteral("UPDATE recent_songs SET song_id = ? WHERE song_id = ? "
+                                       "AND NOT EXISTS (SELECT 1 FROM recent_songs AS other "
+                                       "WHERE other.song_id = ?)"))
+               .run(to, from, to)
+        && Counters::raise(m_connection, Counters::Area::Playlists)
+        && Counters::raise(m_connection, Counters::Area::Recent);
+}
+
+bool SongWriter::finish()
+{
+    return m_containers.refresh(m_connection);
+}

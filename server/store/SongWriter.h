@@ -1,0 +1,27 @@
+// Writes a song's row and what hangs on it: its album, its artists, its genres. Runs within a transaction of the writer.
+#pragma once
+
+#include "Containers.h"
+#include "SongRows.h"
+
+class Connection;
+
+class SongWriter final {
+public:
+    explicit SongWriter(Connection &connection);
+
+    // The row as it was read, with changed sources; what follows from them is set here.
+    [[nodiscard]] bool write(SongRow *row);
+    // Likes, playlists and the place among the recent songs go from one song to the other, which has precedence.
+    [[nodiscard]] bool inherit(int from, int to);
+    // To be called once at the end: counts and versions.
+    [[nodiscard]] bool finish();
+    [[nodiscard]] Containers *containers() { return &m_containers; }
+
+private:
+    [[nodiscard]] bool findAlbum(SongRow *row);
+    [[nodiscard]] bool writeNames(const QString &table, int song, const QStringList &names);
+
+    Connection &m_connection;
+    Containers m_containers;
+};

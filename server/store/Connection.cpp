@@ -51,17 +51,17 @@ bool Connection::configure(Access access)
 {
     if (!isFile()) {
         return execute(QStringLiteral("SET client_min_messages TO warning"))
-            && (access == Access::Write
-                || execute(QStringLiteral("SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY")));
+               && (access == Access::Write
+                   || execute(QStringLiteral("SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY")));
     }
     if (access == Access::Read) {
         return execute(QStringLiteral("PRAGMA temp_store = MEMORY"))
-            && execute(QStringLiteral("PRAGMA query_only = ON"));
+               && execute(QStringLiteral("PRAGMA query_only = ON"));
     }
     return execute(QStringLiteral("PRAGMA journal_mode = WAL"))
-        && execute(QStringLiteral("PRAGMA synchronous = NORMAL"))
-        && execute(QStringLiteral("PRAGMA foreign_keys = ON"))
-        && execute(QStringLiteral("PRAGMA temp_store = MEMORY"));
+           && execute(QStringLiteral("PRAGMA synchronous = NORMAL"))
+           && execute(QStringLiteral("PRAGMA foreign_keys = ON"))
+           && execute(QStringLiteral("PRAGMA temp_store = MEMORY"));
 }
 
 bool Connection::isOpen() const

@@ -44,9 +44,10 @@ bool Containers::refresh(Connection &connection) const
     const auto all = [&connection](const QSet<int> &ids, bool (*refreshOne)(Connection &, int)) {
         return std::all_of(ids.begin(), ids.end(), [&](int id) { return refreshOne(connection, id); });
     };
-    return all(m_shows, &refreshShow) && all(m_collections, &refreshCollection) && all(m_albums, &refreshAlbum)
-        && (!m_videos || Counters::raise(connection, Counters::Area::Video))
-        && (!m_songs || Counters::raise(connection, Counters::Area::Music));
+    return all(m_shows, &refreshShow) && all(m_collections, &refreshCollection)
+           && all(m_albums, &refreshAlbum)
+           && (!m_videos || Counters::raise(connection, Counters::Area::Video))
+           && (!m_songs || Counters::raise(connection, Counters::Area::Music));
 }
 
 bool Containers::refreshShow(Connection &connection, int id)
@@ -120,7 +121,8 @@ bool Containers::refreshAlbum(Connection &connection, int id)
         }
     }
     return connection
-        .prepare(QStringLiteral("UPDATE albums SET songs = ?, year = ?, added = ?, genre = ?, poster = ? WHERE id = ?"))
+        .prepare(QStringLiteral(
+            "UPDATE albums SET songs = ?, year = ?, added = ?, genre = ?, poster = ? WHERE id = ?"))
         .run(songs, year, added, genre, poster, id);
 }
 
@@ -129,10 +131,12 @@ bool Containers::dropEmpty(Connection &connection)
     const QString statements[] = {
         QStringLiteral("DELETE FROM seasons WHERE NOT EXISTS (SELECT 1 FROM items "
                        "WHERE items.show_id = seasons.show_id AND items.season = seasons.number)"),
-        QStringLiteral("DELETE FROM shows WHERE NOT EXISTS (SELECT 1 FROM items WHERE items.show_id = shows.id)"),
+        QStringLiteral(
+            "DELETE FROM shows WHERE NOT EXISTS (SELECT 1 FROM items WHERE items.show_id = shows.id)"),
         QStringLiteral("DELETE FROM collections WHERE NOT EXISTS "
                        "(SELECT 1 FROM items WHERE items.group_id = collections.id)"),
-        QStringLiteral("DELETE FROM albums WHERE NOT EXISTS (SELECT 1 FROM songs WHERE songs.album_id = albums.id)"),
+        QStringLiteral(
+            "DELETE FROM albums WHERE NOT EXISTS (SELECT 1 FROM songs WHERE songs.album_id = albums.id)"),
     };
     return std::all_of(std::begin(statements), std::end(statements),
                        [&connection](const QString &statement) { return connection.execute(statement); });

@@ -1,5 +1,6 @@
-// Shows, collections and albums: records that stand for many files and are listed as long as one of them is there.
-// Collects those whose files change in a transaction and brings their counts and pictures up to date at its end.
+// Shows, collections and albums: records that stand for many files and are listed as long as one of them is
+// there. Collects those whose files change in a transaction and brings their counts and pictures up to date
+// at its end.
 #pragma once
 
 #include <QSet>

@@ -1,5 +1,5 @@
-// Numbers that only grow, kept in the database: the ids of records, and a version of each area of the data, which a
-// change of its tables raises. Both are part of the transaction they are asked in.
+// Numbers that only grow, kept in the database: the ids of records, and a version of each area of the data,
+// which a change of its tables raises. Both are part of the transaction they are asked in.
 #pragma once
 
 #include <QString>

@@ -39,7 +39,7 @@ public:
         m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(),
                                        [&life](const Entry &entry) {
                                            return !entry.life.owner_before(life)
-                                               && !life.owner_before(entry.life);
+                                                  && !life.owner_before(entry.life);
                                        }),
                         m_entries.end());
     }

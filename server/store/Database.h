@@ -1,5 +1,5 @@
-// The library's database: one file in the data folder, or a database of a PostgreSQL server. Owns the thread that
-// writes; every thread that reads gets a connection of its own, which goes with the thread.
+// The library's database: one file in the data folder, or a database of a PostgreSQL server. Owns the thread
+// that writes; every thread that reads gets a connection of its own, which goes with the thread.
 #pragma once
 
 #include "Connection.h"
@@ -22,8 +22,8 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    // Looks whether the file is whole, puts the backup in the place of a damaged one, brings the tables up to date and
-    // starts a backup. False with the reason in the log.
+    // Looks whether the file is whole, puts the backup in the place of a damaged one, brings the tables up to
+    // date and starts a backup. False with the reason in the log.
     [[nodiscard]] bool open();
 
     // The reading connection of the calling thread. Where the database cannot be reached its statements fail.
@@ -37,7 +37,8 @@ private:
     ConnectionSettings m_settings;
     QString m_backupPath;
     Clock m_clock;
-    // Held by this object alone: the threads' connections learn from it that they have outlived their database.
+    // Held by this object alone: the threads' connections learn from it that they have outlived their
+    // database.
     std::shared_ptr<int> m_life{std::make_shared<int>()};
     std::unique_ptr<WriterThread> m_writer;
 };

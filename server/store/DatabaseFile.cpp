@@ -19,8 +19,8 @@ const QLatin1String kCheckConnection("quorin-store-check");
 // What belongs to the file while it is open and, after a kill, until it is opened again.
 const QLatin1String kCompanions[] = {QLatin1String(""), QLatin1String("-wal"), QLatin1String("-shm")};
 
-// SQLite's own numbers for "malformed" and "not a database" (sqlite.org/rescode.html); extended codes carry them in the
-// low byte.
+// SQLite's own numbers for "malformed" and "not a database" (sqlite.org/rescode.html); extended codes carry
+// them in the low byte.
 bool meansDamage(const QSqlError &error)
 {
     constexpr int kCorrupt = 11;
@@ -143,7 +143,8 @@ bool DatabaseFile::backUp(Connection &connection) const
     QFile::remove(copy);
     QString quoted = copy;
     quoted.replace(QLatin1Char('\''), QLatin1String("''"));
-    if (!connection.execute(QStringLiteral("VACUUM INTO '%1'").arg(quoted)) || !replaceFile(copy, m_backupPath)) {
+    if (!connection.execute(QStringLiteral("VACUUM INTO '%1'").arg(quoted))
+        || !replaceFile(copy, m_backupPath)) {
         qWarning() << "[store] the database could not be backed up to" << m_backupPath;
         QFile::remove(copy);
         return false;

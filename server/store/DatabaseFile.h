@@ -1,5 +1,5 @@
-// The care of the database's file: is it whole, where is its copy, what is done with a damaged one. All before and
-// beside the ordinary connections; a database on a server has an owner who does this.
+// The care of the database's file: is it whole, where is its copy, what is done with a damaged one. All
+// before and beside the ordinary connections; a database on a server has an owner who does this.
 #pragma once
 
 #include <QString>
@@ -10,11 +10,11 @@ class DatabaseFile final {
 public:
     DatabaseFile(const QString &path, const QString &backupPath);
 
-    // Puts a whole file in place: this one, else its backup, else none. False when it can't be read for a reason that is
-    // no damage (rights, a lock): then nothing was touched.
+    // Puts a whole file in place: this one, else its backup, else none. False when it can't be read for a
+    // reason that is no damage (rights, a lock): then nothing was touched.
     [[nodiscard]] bool makeWhole() const;
-    // Copies a file that was found whole, unless nothing was written since the last copy. Outside of a transaction. The old
-    // backup stays until the new one is complete.
+    // Copies a file that was found whole, unless nothing was written since the last copy. Outside of a
+    // transaction. The old backup stays until the new one is complete.
     bool backUp(Connection &connection) const;
 
 private:

@@ -33,7 +33,8 @@ FileMatcher::FileMatcher(Connection &connection, const FileTable &table, qint64 
 {
 }
 
-QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files, Containers *containers)
+QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
+                                Containers *containers)
 {
     if (!hideOthers(folders, files, containers)) {
         m_failed = true;
@@ -42,15 +43,17 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
     QVector<int> ids;
     ids.reserve(files.size());
     for (const FileRow &file : files) {
-        ids << (FileTable::isRemoved(m_connection, file) ? kRefused
-                                                         : m_table.at(m_connection, file.path, file.track).id);
+        ids << (FileTable::isRemoved(m_connection, file)
+                    ? kRefused
+                    : m_table.at(m_connection, file.path, file.track).id);
     }
     matchMoves(files, &ids);
     giveNewIds(&ids);
     return ids;
 }
 
-bool FileMatcher::hideOthers(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files, Containers *containers)
+bool FileMatcher::hideOthers(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
+                             Containers *containers)
 {
     QSet<Place> present;
     for (const FileRow &file : files)
@@ -87,8 +90,9 @@ void FileMatcher::matchMoves(const QVector<FileRow> &files, QVector<int> *ids)
         const int id = lost.first().id;
         (*ids)[index] = id;
         taken.insert(id);
-        m_lost.erase(std::remove_if(m_lost.begin(), m_lost.end(), [id](const FileRow &row) { return row.id == id; }),
-                     m_lost.end());
+        m_lost.erase(
+            std::remove_if(m_lost.begin(), m_lost.end(), [id](const FileRow &row) { return row.id == id; }),
+            m_lost.end());
     }
 }
 
@@ -112,7 +116,8 @@ QVector<FileMatcher::Move> FileMatcher::lateMoves(const QVector<FileRow> &lost) 
 {
     QVector<Move> moves;
     for (const FileRow &row : lost) {
-        // Only a row that was made after the file was last seen in its old place: another is a copy of its own.
+        // Only a row that was made after the file was last seen in its old place: another is a copy of its
+        // own.
         QVector<FileRow> comers = m_table.alike(m_connection, row, false);
         comers.erase(std::remove_if(comers.begin(), comers.end(),
                                     [&row](const FileRow &comer) { return comer.added <= row.seen; }),

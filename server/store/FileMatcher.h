@@ -1,9 +1,9 @@
-// Finds out which known row each file of a scan is: the one of its path, one that is missing since the file was moved,
-// or none, in which case it gets a new id. Runs within a transaction of the writer.
+// Finds out which known row each file of a scan is: the one of its path, one that is missing since the file
+// was moved, or none, in which case it gets a new id. Runs within a transaction of the writer.
 //
-// A moved file is known by its size, its time and its suffix, and only where exactly one file was lost and exactly one
-// has come. It may have been found in its new place before it was missed in the old one: then both have a row, and the
-// older one is to take the newer one's place.
+// A moved file is known by its size, its time and its suffix, and only where exactly one file was lost and
+// exactly one has come. It may have been found in its new place before it was missed in the old one: then
+// both have a row, and the older one is to take the newer one's place.
 #pragma once
 
 #include "FileTable.h"
@@ -25,16 +25,18 @@ public:
 
     FileMatcher(Connection &connection, const FileTable &table, qint64 now);
 
-    // The ids of the files, which are all that the folders now hold. What has left the folders is hidden. Empty only
-    // where there are no files or the database refuses (isFailed()).
-    [[nodiscard]] QVector<int> match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files, Containers *containers);
+    // The ids of the files, which are all that the folders now hold. What has left the folders is hidden.
+    // Empty only where there are no files or the database refuses (isFailed()).
+    [[nodiscard]] QVector<int> match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
+                                     Containers *containers);
     [[nodiscard]] bool isFailed() const { return m_failed; }
     // Rows of the files that left which are to take the place of newer rows.
     [[nodiscard]] QVector<Move> lateMoves() const { return lateMoves(m_lost); }
     [[nodiscard]] QVector<Move> lateMoves(const QVector<FileRow> &lost) const;
 
 private:
-    [[nodiscard]] bool hideOthers(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files, Containers *containers);
+    [[nodiscard]] bool hideOthers(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
+                                  Containers *containers);
     void matchMoves(const QVector<FileRow> &files, QVector<int> *ids);
     void giveNewIds(QVector<int> *ids);
 

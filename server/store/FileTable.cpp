@@ -22,7 +22,8 @@ QString bare(const QString &folder)
 FileTable::FileTable(const QString &name, const QString &track, const QStringList &containers)
     : m_name(name)
     , m_track(track)
-    , m_select(QStringLiteral("SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since FROM %2 ")
+    , m_select(QStringLiteral(
+                   "SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since FROM %2 ")
                    .arg(track, name))
     , m_containers(containers.join(QStringLiteral(", ")))
     , m_isVideos(containers.size() > 1)
@@ -38,7 +39,8 @@ const FileTable &FileTable::videos()
 
 const FileTable &FileTable::songs()
 {
-    static const FileTable table(QStringLiteral("songs"), QStringLiteral("track"), {QStringLiteral("album_id")});
+    static const FileTable table(QStringLiteral("songs"), QStringLiteral("track"),
+                                 {QStringLiteral("album_id")});
     return table;
 }
 
@@ -105,15 +107,17 @@ QVector<FileRow> FileTable::alike(Connection &connection, const FileRow &file, b
 QVector<FileRow> FileTable::below(Connection &connection, int root, const QString &folder) const
 {
     if (folder.isEmpty()) {
-        Statement statement = connection.prepare(m_select + QStringLiteral("WHERE root = ? AND missing_since = 0"));
+        Statement statement =
+            connection.prepare(m_select + QStringLiteral("WHERE root = ? AND missing_since = 0"));
         return statement.run(root) ? readAll(&statement) : QVector<FileRow>();
     }
     Statement statement = connection.prepare(
         m_select
-        + QStringLiteral("WHERE (folder = ? OR (folder >= ? AND folder < ?)) AND root = ? AND missing_since = 0"));
+        + QStringLiteral(
+            "WHERE (folder = ? OR (folder >= ? AND folder < ?)) AND root = ? AND missing_since = 0"));
     const QString name = bare(folder);
     return statement.run(folder, QString(name + QLatin1Char('/')), endOf(name), root) ? readAll(&statement)
-                                                                                     : QVector<FileRow>();
+                                                                                      : QVector<FileRow>();
 }
 
 bool FileTable::noteContainers(Connection &connection, int id, Containers *containers) const
@@ -160,8 +164,8 @@ bool FileTable::hideAll(Connection &connection, qint64 now) const
     }
     Containers containers;
     return hide(connection, present, now, &containers)
-        && connection.execute(QStringLiteral("UPDATE %1 SET scanned = ''").arg(m_name))
-        && containers.refresh(connection);
+           && connection.execute(QStringLiteral("UPDATE %1 SET scanned = ''").arg(m_name))
+           && containers.refresh(connection);
 }
 
 bool FileTable::moveToRoot(Connection &connection, int from, int to, const QString &folder) const
@@ -186,26 +190,28 @@ bool FileTable::dropMissing(Connection &connection, int root, qint64 before) con
 bool FileTable::remove(Connection &connection, const FileRow &row, Containers *containers) const
 {
     return noteContainers(connection, row.id, containers)
-        && connection
-               .prepare(QStringLiteral("INSERT INTO removed (path, track, size, modified) VALUES (?, ?, ?, ?) "
-                                       "ON CONFLICT (path, track) DO UPDATE "
-                                       "SET size = excluded.size, modified = excluded.modified"))
-               .run(row.path, row.track, row.stamp.size, row.stamp.modifiedMs)
-        && connection.prepare(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(m_name)).run(row.id);
+           && connection
+                  .prepare(
+                      QStringLiteral("INSERT INTO removed (path, track, size, modified) VALUES (?, ?, ?, ?) "
+                                     "ON CONFLICT (path, track) DO UPDATE "
+                                     "SET size = excluded.size, modified = excluded.modified"))
+                  .run(row.path, row.track, row.stamp.size, row.stamp.modifiedMs)
+           && connection.prepare(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(m_name)).run(row.id);
 }
 
 bool FileTable::isRemoved(Connection &connection, const FileRow &file)
 {
     FileStamp stamp;
     {
-        Statement statement =
-            connection.prepare(QStringLiteral("SELECT size, modified FROM removed WHERE path = ? AND track = ?"));
+        Statement statement = connection.prepare(
+            QStringLiteral("SELECT size, modified FROM removed WHERE path = ? AND track = ?"));
         if (!statement.run(file.path, file.track) || !statement.next())
             return false;
         stamp = {statement.number(0), statement.number(1)};
     }
     if (stamp == file.stamp)
         return true;
-    connection.prepare(QStringLiteral("DELETE FROM removed WHERE path = ? AND track = ?")).run(file.path, file.track);
+    connection.prepare(QStringLiteral("DELETE FROM removed WHERE path = ? AND track = ?"))
+        .run(file.path, file.track);
     return false;
 }

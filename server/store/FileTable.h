@@ -1,5 +1,5 @@
-// What the tables of videos and of songs have in common: rows that stand for files, which appear, move and go missing.
-// A missing file's row is hidden and kept. All operations run within a transaction of the writer.
+// What the tables of videos and of songs have in common: rows that stand for files, which appear, move and go
+// missing. A missing file's row is hidden and kept. All operations run within a transaction of the writer.
 #pragma once
 
 #include "records/ScanRecords.h"
@@ -34,7 +34,8 @@ public:
     [[nodiscard]] QString name() const { return m_name; }
     [[nodiscard]] FileRow at(Connection &connection, const QString &path, int track) const;
     [[nodiscard]] QVector<FileRow> inFolder(Connection &connection, int root, const QString &folder) const;
-    // Rows, missing or present ones, of files that look the same: size, time, suffix and track. None for empty files.
+    // Rows, missing or present ones, of files that look the same: size, time, suffix and track. None for
+    // empty files.
     [[nodiscard]] QVector<FileRow> alike(Connection &connection, const FileRow &file, bool missing) const;
     // The present rows of a root's folder and of all below it; of the whole root without a folder.
     [[nodiscard]] QVector<FileRow> below(Connection &connection, int root, const QString &folder = {}) const;

@@ -32,8 +32,8 @@ bool forgetFingerprints(Connection &connection, int root)
 // What lies below another folder of the library too stays in it; that folder is read anew.
 bool handOver(Connection &connection, const FileTable &files, const RootFolder &from)
 {
-    const std::vector<RootFolder> others =
-        rootTable().list(connection, QStringLiteral("WHERE library = ? AND id <> ?"), from.libraryId, from.pathId);
+    const std::vector<RootFolder> others = rootTable().list(
+        connection, QStringLiteral("WHERE library = ? AND id <> ?"), from.libraryId, from.pathId);
     for (const RootFolder &other : others) {
         if (!FileTable::isBelow(other.path, from.path) && !FileTable::isBelow(from.path, other.path))
             continue;
@@ -77,8 +77,8 @@ int LibraryRoots::addFolder(int libraryId, const QString &path, const QString &s
     RootFolder root;
     const bool stored = m_database.write(Database::Urgency::User, [&](Connection &connection) {
         const QString clean = QDir::cleanPath(QDir::fromNativeSeparators(path));
-        const std::vector<RootFolder> known = rootTable().list(
-            connection, QStringLiteral("WHERE library = ? AND path = ?"), libraryId, clean);
+        const std::vector<RootFolder> known =
+            rootTable().list(connection, QStringLiteral("WHERE library = ? AND path = ?"), libraryId, clean);
         root = known.empty() ? RootFolder() : known.front();
         if (!known.empty() && root.scraperType == scraperType)
             return true;
@@ -88,7 +88,7 @@ int LibraryRoots::addFolder(int libraryId, const QString &path, const QString &s
         root.path = clean;
         root.scraperType = scraperType;
         return root.pathId > 0 && rootTable().write(connection, root)
-            && forgetFingerprints(connection, root.pathId);
+               && forgetFingerprints(connection, root.pathId);
     });
     return stored ? root.pathId : -1;
 }
@@ -101,8 +101,8 @@ bool LibraryRoots::removeFolder(int libraryId, int pathId)
             return false;
         const FileTable &files = libraryId == kMusicLibrary ? FileTable::songs() : FileTable::videos();
         return connection.prepare(QStringLiteral("DELETE FROM roots WHERE id = ?")).run(pathId)
-            && handOver(connection, files, root) && forgetFingerprints(connection, pathId)
-            && files.hideRoot(connection, pathId, m_database.now());
+               && handOver(connection, files, root) && forgetFingerprints(connection, pathId)
+               && files.hideRoot(connection, pathId, m_database.now());
     });
 }
 

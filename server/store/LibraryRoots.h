@@ -15,8 +15,8 @@ public:
     [[nodiscard]] QVector<RootFolder> folders(int libraryId) const override;
     // Another scraper type for a known folder makes it be read anew.
     int addFolder(int libraryId, const QString &path, const QString &scraperType) override;
-    // The records are kept hidden for as long as those of missing files are: added again, the folder has its ids, likes
-    // and playlists back.
+    // The records are kept hidden for as long as those of missing files are: added again, the folder has its
+    // ids, likes and playlists back.
     bool removeFolder(int libraryId, int pathId) override;
     void setOnline(int pathId, bool online) override;
 

@@ -1,6 +1,7 @@
-// The orders of the lists that were asked for last: for each the ids in their order, so that a part of a list costs the
-// same wherever it lies. An order is good for one version of the data and made anew at the first request after a change.
-// Any thread; requests for an order that is being made wait for it instead of making it twice.
+// The orders of the lists that were asked for last: for each the ids in their order, so that a part of a list
+// costs the same wherever it lies. An order is good for one version of the data and made anew at the first
+// request after a change. Any thread; requests for an order that is being made wait for it instead of making
+// it twice.
 #pragma once
 
 #include <QString>

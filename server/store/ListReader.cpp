@@ -27,7 +27,7 @@ struct Query {
     QStringList values;
 };
 
-void restrict(Query *query, QLatin1String condition, const QString &value)
+void addCondition(Query *query, QLatin1String condition, const QString &value)
 {
     query->text += QStringLiteral(" AND ") + condition;
     query->values << TextFold::containing(TextFold::folded(value));
@@ -41,7 +41,7 @@ Query queryFor(const ListSource &source, const ListRequest &request)
         bool known = false;
         for (const FilterColumn &column : kFilters) {
             if (filter.field == column.field) {
-                restrict(&query, column.condition, filter.value);
+                addCondition(&query, column.condition, filter.value);
                 known = true;
             }
         }
@@ -49,11 +49,12 @@ Query queryFor(const ListSource &source, const ListRequest &request)
             qWarning() << "[store] a list cannot be filtered by" << filter.field;
     }
     if (!request.pattern.isEmpty())
-        restrict(&query, kSearch, request.pattern);
-    const QString column =
-        source.columns.value(request.sort, source.columns.value(SortMethod::Title, QStringLiteral("sort_title")));
-    query.text += QStringLiteral(" ORDER BY %1 %2, %3")
-                      .arg(column, request.ascending ? QStringLiteral("ASC") : QStringLiteral("DESC"), source.ties);
+        addCondition(&query, kSearch, request.pattern);
+    const QString column = source.columns.value(
+        request.sort, source.columns.value(SortMethod::Title, QStringLiteral("sort_title")));
+    query.text +=
+        QStringLiteral(" ORDER BY %1 %2, %3")
+            .arg(column, request.ascending ? QStringLiteral("ASC") : QStringLiteral("DESC"), source.ties);
     return query;
 }
 
@@ -76,8 +77,8 @@ ListReader::ListReader(const Database &database)
 ListOrders::Ids ListReader::ids(const ListSource &source, const ListRequest &request) const
 {
     Connection &connection = m_database.reader();
-    // Versions only grow, so their sum tells every change. It is read before the order is: an order of later data under
-    // an earlier version is made anew once too often, never once too seldom.
+    // Versions only grow, so their sum tells every change. It is read before the order is: an order of later
+    // data under an earlier version is made anew once too often, never once too seldom.
     qint64 version = 0;
     for (const Counters::Area area : source.areas)
         version += Counters::version(connection, area);

@@ -1,5 +1,5 @@
-// Reads parts of lists: finds the order of a list, in memory where it is known, and then the records of the part by their
-// keys. Any thread.
+// Reads parts of lists: finds the order of a list, in memory where it is known, and then the records of the
+// part by their keys. Any thread.
 #pragma once
 
 #include "Counters.h"
@@ -10,6 +10,7 @@
 #include "records/ListRequest.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -21,8 +22,8 @@ struct ListSource {
     QString condition; // what belongs to the list, with question marks for the values
     QStringList values;
     QString id{QStringLiteral("id")};
-    QVector<Counters::Area> areas; // whose changes change the list
-    QHash<SortMethod, QString> columns; // the method of others is the title's
+    QVector<Counters::Area> areas;     // whose changes change the list
+    QMap<SortMethod, QString> columns; // the method of others is the title's
     QString ties{QStringLiteral("sort_title, id")};
 };
 
@@ -73,8 +74,8 @@ private:
     [[nodiscard]] static QString keyCondition(int count);
 
     template<class Record>
-    void readChunk(const QVector<int> &wanted, int start, int count, const RowTable<Record> &table, int Record::*id,
-                   QHash<int, Record> *chunk) const
+    void readChunk(const QVector<int> &wanted, int start, int count, const RowTable<Record> &table,
+                   int Record::*id, QHash<int, Record> *chunk) const
     {
         Statement statement = m_database.reader().prepare(table.select() + keyCondition(count));
         for (int index = start; index < start + count; ++index)

@@ -8,7 +8,8 @@ namespace {
 
 QString forDatabase(QString statement, bool isFile)
 {
-    // A server's own collation would sort and compare by its language; here the program decides what is compared.
+    // A server's own collation would sort and compare by its language; here the program decides what is
+    // compared.
     statement.replace(QLatin1String("{text}"),
                       isFile ? QLatin1String("TEXT") : QLatin1String("TEXT COLLATE \"C\""));
     statement.replace(QLatin1String("{real}"),
@@ -25,7 +26,8 @@ Migrations::Migrations(const QVector<Migration> &steps)
 
 int Migrations::version(Connection &connection)
 {
-    if (!connection.execute(QStringLiteral("CREATE TABLE IF NOT EXISTS schema_version (version INTEGER NOT NULL)")))
+    if (!connection.execute(
+            QStringLiteral("CREATE TABLE IF NOT EXISTS schema_version (version INTEGER NOT NULL)")))
         return -1;
     Statement read = connection.prepare(QStringLiteral("SELECT version FROM schema_version"));
     if (!read.run())
@@ -62,5 +64,6 @@ bool Migrations::applyStep(Connection &connection, const Migration &step, int nu
             return false;
     }
     return connection.execute(QStringLiteral("DELETE FROM schema_version"))
-        && connection.prepare(QStringLiteral("INSERT INTO schema_version (version) VALUES (?)")).run(number);
+           && connection.prepare(QStringLiteral("INSERT INTO schema_version (version) VALUES (?)"))
+                  .run(number);
 }

@@ -27,16 +27,17 @@ const RowTable<MovieRecord> &movieTable()
 
 const RowTable<GroupRecord> &groupTable()
 {
-    static const RowTable<GroupRecord> table(QStringLiteral("collections"), {{"id", &GroupRecord::idGroup},
-                                                                             {"title", &GroupRecord::title},
-                                                                             {"poster", &GroupRecord::poster},
-                                                                             {"backdrop", &GroupRecord::backdrop},
-                                                                             {"overview", &GroupRecord::overview},
-                                                                             {"movies", &GroupRecord::fileCount}});
+    static const RowTable<GroupRecord> table(QStringLiteral("collections"),
+                                             {{"id", &GroupRecord::idGroup},
+                                              {"title", &GroupRecord::title},
+                                              {"poster", &GroupRecord::poster},
+                                              {"backdrop", &GroupRecord::backdrop},
+                                              {"overview", &GroupRecord::overview},
+                                              {"movies", &GroupRecord::fileCount}});
     return table;
 }
 
-QHash<SortMethod, QString> sortColumns()
+QMap<SortMethod, QString> sortColumns()
 {
     return {{SortMethod::Title, QStringLiteral("sort_title")},
             {SortMethod::Year, QStringLiteral("year")},
@@ -92,8 +93,9 @@ Page<MovieRecord> MovieLists::movies(Role role, const ListRequest &request) cons
 {
     if (role != Role::Movies && role != Role::Videos && role != Role::Adult)
         return {};
-    return m_reader.page(itemSource(QStringLiteral("movies"), QStringLiteral("kind = %1").arg(static_cast<int>(role))),
-                         request, movieTable(), &MovieRecord::idFile);
+    return m_reader.page(
+        itemSource(QStringLiteral("movies"), QStringLiteral("kind = %1").arg(static_cast<int>(role))),
+        request, movieTable(), &MovieRecord::idFile);
 }
 
 MovieRecord MovieLists::movie(int idFile) const
@@ -154,8 +156,8 @@ QVector<int> MovieLists::years(Role role) const
     const QString rows = filtered(role);
     if (rows.isEmpty())
         return years;
-    Statement read =
-        m_database.reader().prepare(QStringLiteral("SELECT DISTINCT year FROM %1 AND year > 0 ORDER BY year").arg(rows));
+    Statement read = m_database.reader().prepare(
+        QStringLiteral("SELECT DISTINCT year FROM %1 AND year > 0 ORDER BY year").arg(rows));
     if (read.run()) {
         while (read.next())
             years << read.integer(0);

@@ -1,5 +1,5 @@
-// The lists of films, videos and adult content, the collections, and what films and shows can be filtered by. Reads
-// only; any thread.
+// The lists of films, videos and adult content, the collections, and what films and shows can be filtered by.
+// Reads only; any thread.
 #pragma once
 
 #include "ListReader.h"

@@ -118,7 +118,8 @@ bool MusicLibrary::removePlaylist(int idPlayList)
 bool MusicLibrary::addToPlaylist(int idPlayList, int idFile)
 {
     return m_database.write(Urgency::User, [&](Connection &connection) {
-        return presentSong(connection, idFile).id > 0 && PlaylistTable::addSong(connection, idPlayList, idFile);
+        return presentSong(connection, idFile).id > 0
+               && PlaylistTable::addSong(connection, idPlayList, idFile);
     });
 }
 
@@ -132,8 +133,8 @@ bool MusicLibrary::removeFromPlaylist(int idPlayList, int idFile)
 bool MusicLibrary::setLiked(int idFile, bool liked)
 {
     return m_database.write(Urgency::User, [&](Connection &connection) {
-        Statement update =
-            connection.prepare(QStringLiteral("UPDATE songs SET liked = ? WHERE id = ? AND missing_since = 0"));
+        Statement update = connection.prepare(
+            QStringLiteral("UPDATE songs SET liked = ? WHERE id = ? AND missing_since = 0"));
         return update.run(liked ? 1 : 0, idFile) && update.changed() == 1;
     });
 }
@@ -162,7 +163,8 @@ bool MusicLibrary::restoreSong(int idFile)
 bool MusicLibrary::setAlbumPoster(int idAlbum, const QString &poster)
 {
     return m_database.write(Urgency::User, [&](Connection &connection) {
-        Statement update = connection.prepare(QStringLiteral("UPDATE albums SET user_poster = ? WHERE id = ?"));
+        Statement update =
+            connection.prepare(QStringLiteral("UPDATE albums SET user_poster = ? WHERE id = ?"));
         return update.run(poster, idAlbum) && update.changed() == 1;
     });
 }

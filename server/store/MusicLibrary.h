@@ -1,5 +1,5 @@
-// The music library over the database: lists are read on the caller's connection, changes go through the writer. Any
-// thread.
+// The music library over the database: lists are read on the caller's connection, changes go through the
+// writer. Any thread.
 #pragma once
 
 #include "IMusicLibrary.h"
@@ -15,8 +15,10 @@ public:
     [[nodiscard]] Page<SongRecord> recentSongs(const ListRequest &request) const override;
     [[nodiscard]] Page<SongRecord> playlistSongs(int idPlayList, const ListRequest &request) const override;
     [[nodiscard]] Page<SongRecord> albumSongs(int idAlbum, const ListRequest &request) const override;
-    [[nodiscard]] Page<SongRecord> artistSongs(const QString &artist, const ListRequest &request) const override;
-    [[nodiscard]] Page<SongRecord> genreSongs(const QString &genre, const ListRequest &request) const override;
+    [[nodiscard]] Page<SongRecord> artistSongs(const QString &artist,
+                                               const ListRequest &request) const override;
+    [[nodiscard]] Page<SongRecord> genreSongs(const QString &genre,
+                                              const ListRequest &request) const override;
     [[nodiscard]] Page<AlbumRecord> albums(const ListRequest &request) const override;
     [[nodiscard]] QVector<ArtistRecord> artists() const override;
     [[nodiscard]] QStringList genres() const override;

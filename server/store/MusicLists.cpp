@@ -38,7 +38,7 @@ const RowTable<AlbumRecord> &albumTable()
     return table;
 }
 
-QHash<SortMethod, QString> songColumns()
+QMap<SortMethod, QString> songColumns()
 {
     return {{SortMethod::Title, QStringLiteral("sort_title")},
             {SortMethod::Year, QStringLiteral("year")},
@@ -81,8 +81,8 @@ ListSource albumSource(int idAlbum)
 
 ListSource artistSource(const QString &artist)
 {
-    return joined(QStringLiteral("artist"), QStringLiteral("song_artists"), QStringLiteral("part.name_key = ?"),
-                  TextFold::nameKey(artist));
+    return joined(QStringLiteral("artist"), QStringLiteral("song_artists"),
+                  QStringLiteral("part.name_key = ?"), TextFold::nameKey(artist));
 }
 
 ListSource genreSource(const QString &genre)
@@ -176,9 +176,10 @@ QVector<ArtistRecord> MusicLists::artists() const
         if (artists.last().localPath.isEmpty())
             artists.last().localPath = read.text(1);
     }
-    std::stable_sort(artists.begin(), artists.end(), [](const ArtistRecord &first, const ArtistRecord &second) {
-        return TextFold::folded(first.name) < TextFold::folded(second.name);
-    });
+    std::stable_sort(artists.begin(), artists.end(),
+                     [](const ArtistRecord &first, const ArtistRecord &second) {
+                         return TextFold::folded(first.name) < TextFold::folded(second.name);
+                     });
     return artists;
 }
 

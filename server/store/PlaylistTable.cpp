@@ -50,26 +50,26 @@ bool PlaylistTable::change(Connection &connection, const PlaylistRecord &playlis
 bool PlaylistTable::remove(Connection &connection, int id)
 {
     return exists(connection, id)
-        && connection.prepare(QStringLiteral("DELETE FROM playlists WHERE id = ?")).run(id)
-        && Counters::raise(connection, Counters::Area::Playlists);
+           && connection.prepare(QStringLiteral("DELETE FROM playlists WHERE id = ?")).run(id)
+           && Counters::raise(connection, Counters::Area::Playlists);
 }
 
 bool PlaylistTable::addSong(Connection &connection, int id, int song)
 {
     return exists(connection, id)
-        && connection
-               .prepare(QStringLiteral("INSERT INTO playlist_songs (playlist_id, song_id, position) "
-                                       "VALUES (?, ?, ?) ON CONFLICT (playlist_id, song_id) DO NOTHING"))
-               .run(id, song, nextPosition(connection))
-        && Counters::raise(connection, Counters::Area::Playlists);
+           && connection
+                  .prepare(QStringLiteral("INSERT INTO playlist_songs (playlist_id, song_id, position) "
+                                          "VALUES (?, ?, ?) ON CONFLICT (playlist_id, song_id) DO NOTHING"))
+                  .run(id, song, nextPosition(connection))
+           && Counters::raise(connection, Counters::Area::Playlists);
 }
 
 bool PlaylistTable::removeSong(Connection &connection, int id, int song)
 {
-    Statement remove =
-        connection.prepare(QStringLiteral("DELETE FROM playlist_songs WHERE playlist_id = ? AND song_id = ?"));
+    Statement remove = connection.prepare(
+        QStringLiteral("DELETE FROM playlist_songs WHERE playlist_id = ? AND song_id = ?"));
     return remove.run(id, song) && remove.changed() > 0
-        && Counters::raise(connection, Counters::Area::Playlists);
+           && Counters::raise(connection, Counters::Area::Playlists);
 }
 
 bool PlaylistTable::notePlayed(Connection &connection, int song)
@@ -78,10 +78,11 @@ bool PlaylistTable::notePlayed(Connection &connection, int song)
                .prepare(QStringLiteral("INSERT INTO recent_songs (song_id, position) VALUES (?, ?) "
                                        "ON CONFLICT (song_id) DO UPDATE SET position = excluded.position"))
                .run(song, nextPosition(connection))
-        && connection
-               .prepare(QStringLiteral("DELETE FROM recent_songs WHERE song_id NOT IN "
-                                       "(SELECT song_id FROM recent_songs ORDER BY position DESC LIMIT %1)")
-                            .arg(kRecentSongs))
-               .run()
-        && Counters::raise(connection, Counters::Area::Recent);
+           && connection
+                  .prepare(
+                      QStringLiteral("DELETE FROM recent_songs WHERE song_id NOT IN "
+                                     "(SELECT song_id FROM recent_songs ORDER BY position DESC LIMIT %1)")
+                          .arg(kRecentSongs))
+                  .run()
+           && Counters::raise(connection, Counters::Area::Recent);
 }

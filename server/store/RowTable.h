@@ -49,7 +49,8 @@ public:
         Row row;
         int index = 0;
         for (const Column<Row> &column : m_columns) {
-            std::visit([&](auto member) { row.*member = value(statement, index, row.*member); }, column.member);
+            std::visit([&](auto member) { row.*member = value(statement, index, row.*member); },
+                       column.member);
             ++index;
         }
         return row;
@@ -64,8 +65,8 @@ public:
     template<class... Keys>
     [[nodiscard]] Row findBy(Connection &connection, const QString &column, const Keys &...keys) const
     {
-        Statement statement = connection.prepare(m_select + QStringLiteral(" WHERE ") + column
-                                                 + QStringLiteral(" = ?"));
+        Statement statement =
+            connection.prepare(m_select + QStringLiteral(" WHERE ") + column + QStringLiteral(" = ?"));
         return statement.run(keys...) && statement.next() ? read(statement) : Row();
     }
 

@@ -71,9 +71,9 @@ QHash<QString, QByteArray> ScanStore::fingerprints(int pathId) const
 QVector<ScannedSong> ScanStore::storedSongs(int pathId, const QString &folder) const
 {
     QVector<ScannedSong> songs;
-    const std::vector<SongRow> rows =
-        SongRow::table().list(m_database.reader(), QStringLiteral("WHERE root = ? AND folder = ? AND scanned <> ''"),
-                              pathId, folder);
+    const std::vector<SongRow> rows = SongRow::table().list(
+        m_database.reader(), QStringLiteral("WHERE root = ? AND folder = ? AND scanned <> ''"), pathId,
+        folder);
     for (const SongRow &row : rows)
         songs << row.scannedSong();
     return songs;
@@ -82,9 +82,9 @@ QVector<ScannedSong> ScanStore::storedSongs(int pathId, const QString &folder) c
 QVector<ScannedVideo> ScanStore::storedVideos(int pathId, const QString &folder) const
 {
     QVector<ScannedVideo> videos;
-    const std::vector<VideoRow> rows =
-        VideoRow::table().list(m_database.reader(), QStringLiteral("WHERE root = ? AND folder = ? AND scanned <> ''"),
-                               pathId, folder);
+    const std::vector<VideoRow> rows = VideoRow::table().list(
+        m_database.reader(), QStringLiteral("WHERE root = ? AND folder = ? AND scanned <> ''"), pathId,
+        folder);
     for (const VideoRow &row : rows)
         videos << row.scannedVideo();
     return videos;
@@ -101,10 +101,10 @@ bool ScanStore::store(const QVector<ScannedFolder> &folders)
         }
         const qint64 now = m_database.now();
         return !wanted.isEmpty() && VideoScan(connection, now).store(wanted)
-            && SongScan(connection, now).store(wanted)
-            && std::all_of(wanted.begin(), wanted.end(), [&connection](const ScannedFolder &folder) {
-                   return storeFingerprint(connection, folder);
-               });
+               && SongScan(connection, now).store(wanted)
+               && std::all_of(wanted.begin(), wanted.end(), [&connection](const ScannedFolder &folder) {
+                      return storeFingerprint(connection, folder);
+                  });
     });
 }
 
@@ -116,8 +116,9 @@ bool ScanStore::forgetFolders(int pathId, const QStringList &folders)
             return false;
         }
         const qint64 now = m_database.now();
-        return VideoScan(connection, now).forget(pathId, folders) && SongScan(connection, now).forget(pathId, folders)
-            && forgetFingerprints(connection, pathId, folders);
+        return VideoScan(connection, now).forget(pathId, folders)
+               && SongScan(connection, now).forget(pathId, folders)
+               && forgetFingerprints(connection, pathId, folders);
     });
 }
 
@@ -126,7 +127,8 @@ void ScanStore::finishScan(int pathId)
     m_database.write(Database::Urgency::Scan, [&](Connection &connection) {
         const qint64 before = m_database.now() - kKeepMissingMs;
         return FileTable::videos().dropMissing(connection, pathId, before)
-            && FileTable::songs().dropMissing(connection, pathId, before) && Containers::dropEmpty(connection);
+               && FileTable::songs().dropMissing(connection, pathId, before)
+               && Containers::dropEmpty(connection);
     });
 }
 
@@ -135,7 +137,7 @@ bool ScanStore::clearForRebuild()
     return m_database.write(Database::Urgency::User, [&](Connection &connection) {
         const qint64 now = m_database.now();
         return ShowTable::forgetProvided(connection) && FileTable::videos().hideAll(connection, now)
-            && FileTable::songs().hideAll(connection, now)
-            && connection.execute(QStringLiteral("DELETE FROM folders"));
+               && FileTable::songs().hideAll(connection, now)
+               && connection.execute(QStringLiteral("DELETE FROM folders"));
     });
 }

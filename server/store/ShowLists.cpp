@@ -22,28 +22,30 @@ const RowTable<ShowRecord> &showTable()
 
 const RowTable<SeasonRecord> &seasonTable()
 {
-    static const RowTable<SeasonRecord> table(QStringLiteral("seasons"), {{"id", &SeasonRecord::idSeason},
-                                                                          {"number", &SeasonRecord::iSeason},
-                                                                          {"title", &SeasonRecord::title},
-                                                                          {"director", &SeasonRecord::director},
-                                                                          {"actors", &SeasonRecord::cast},
-                                                                          {"overview", &SeasonRecord::overview},
-                                                                          {"poster", &SeasonRecord::poster},
-                                                                          {"year", &SeasonRecord::year}});
+    static const RowTable<SeasonRecord> table(QStringLiteral("seasons"),
+                                              {{"id", &SeasonRecord::idSeason},
+                                               {"number", &SeasonRecord::iSeason},
+                                               {"title", &SeasonRecord::title},
+                                               {"director", &SeasonRecord::director},
+                                               {"actors", &SeasonRecord::cast},
+                                               {"overview", &SeasonRecord::overview},
+                                               {"poster", &SeasonRecord::poster},
+                                               {"year", &SeasonRecord::year}});
     return table;
 }
 
 const RowTable<EpisodeRecord> &episodeTable()
 {
-    static const RowTable<EpisodeRecord> table(QStringLiteral("items"), {{"id", &EpisodeRecord::idFile},
-                                                                         {"episode", &EpisodeRecord::iEpisode},
-                                                                         {"title", &EpisodeRecord::title},
-                                                                         {"director", &EpisodeRecord::director},
-                                                                         {"actors", &EpisodeRecord::cast},
-                                                                         {"overview", &EpisodeRecord::overview},
-                                                                         {"poster", &EpisodeRecord::poster},
-                                                                         {"path", &EpisodeRecord::path},
-                                                                         {"year", &EpisodeRecord::year}});
+    static const RowTable<EpisodeRecord> table(QStringLiteral("items"),
+                                               {{"id", &EpisodeRecord::idFile},
+                                                {"episode", &EpisodeRecord::iEpisode},
+                                                {"title", &EpisodeRecord::title},
+                                                {"director", &EpisodeRecord::director},
+                                                {"actors", &EpisodeRecord::cast},
+                                                {"overview", &EpisodeRecord::overview},
+                                                {"poster", &EpisodeRecord::poster},
+                                                {"path", &EpisodeRecord::path},
+                                                {"year", &EpisodeRecord::year}});
     return table;
 }
 
@@ -91,9 +93,10 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, const QString &condit
     // The season of the index on episodes: one look for each row.
     const std::vector<SeasonRecord> rows = seasonTable().list(
         m_database.reader(),
-        QStringLiteral("WHERE show_id = ? %1 AND EXISTS (SELECT 1 FROM items WHERE items.show_id = seasons.show_id "
-                       "AND items.season = seasons.number AND items.kind = %2 AND items.missing_since = 0 "
-                       "AND items.lead_id = 0) ORDER BY number")
+        QStringLiteral(
+            "WHERE show_id = ? %1 AND EXISTS (SELECT 1 FROM items WHERE items.show_id = seasons.show_id "
+            "AND items.season = seasons.number AND items.kind = %2 AND items.missing_since = 0 "
+            "AND items.lead_id = 0) ORDER BY number")
             .arg(condition)
             .arg(static_cast<int>(Role::TvShows)),
         idTvshow);
@@ -109,9 +112,9 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, const QString &condit
         fill(&season.overview, of.overview);
         fill(&season.poster, of.poster);
         if (season.year == 0) {
-            Statement first = m_database.reader().prepare(QStringLiteral("SELECT MIN(year) FROM items ")
-                                                          + episodesOfShow()
-                                                          + QStringLiteral(" AND season = ? AND year > 0"));
+            Statement first =
+                m_database.reader().prepare(QStringLiteral("SELECT MIN(year) FROM items ") + episodesOfShow()
+                                            + QStringLiteral(" AND season = ? AND year > 0"));
             if (first.run(idTvshow, season.iSeason) && first.next())
                 season.year = first.integer(0);
         }
@@ -140,9 +143,9 @@ EpisodeRecord ShowLists::completed(EpisodeRecord episode, const ShowRecord &show
 
 QVector<EpisodeRecord> ShowLists::episodes(int idTvshow, int season) const
 {
-    const std::vector<EpisodeRecord> rows =
-        episodeTable().list(m_database.reader(), episodesOfShow() + QStringLiteral(" AND season = ? ORDER BY episode, id"),
-                            idTvshow, season);
+    const std::vector<EpisodeRecord> rows = episodeTable().list(
+        m_database.reader(), episodesOfShow() + QStringLiteral(" AND season = ? ORDER BY episode, id"),
+        idTvshow, season);
     const ShowRecord of = rows.empty() ? ShowRecord() : show(idTvshow);
     QVector<EpisodeRecord> episodes;
     for (const EpisodeRecord &row : rows) {
@@ -157,7 +160,8 @@ EpisodeRecord ShowLists::episode(int idTvshow, int season, int number) const
     const std::vector<EpisodeRecord> rows = episodeTable().list(
         m_database.reader(),
         episodesOfShow()
-            + QStringLiteral(" AND season = ? AND episode <= ? AND last_episode >= ? ORDER BY episode DESC, id LIMIT 1"),
+            + QStringLiteral(
+                " AND season = ? AND episode <= ? AND last_episode >= ? ORDER BY episode DESC, id LIMIT 1"),
         idTvshow, season, number, number);
     return rows.empty() ? EpisodeRecord() : completed(rows.front(), show(idTvshow));
 }

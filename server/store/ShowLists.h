@@ -1,5 +1,5 @@
-// Shows with their seasons and episodes. What a season or an episode does not tell of itself is the show's. Reads only;
-// any thread.
+// Shows with their seasons and episodes. What a season or an episode does not tell of itself is the show's.
+// Reads only; any thread.
 #pragma once
 
 #include "ListReader.h"

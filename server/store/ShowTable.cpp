@@ -23,7 +23,8 @@ bool write(Connection &connection, ShowRow *row)
 {
     const Description scanned = StoredJson::description(row->scanned);
     const Description provided = StoredJson::description(row->provided);
-    row->describe(DescriptionLayers::withProvided(scanned, row->wants, provided), QFileInfo(row->path).fileName());
+    row->describe(DescriptionLayers::withProvided(scanned, row->wants, provided),
+                  QFileInfo(row->path).fileName());
     if (row->id == 0)
         row->id = nextId(connection, QStringLiteral("shows"));
     return row->id > 0 && ShowRow::table().write(connection, *row);
@@ -31,8 +32,8 @@ bool write(Connection &connection, ShowRow *row)
 
 SeasonRow season(Connection &connection, int showId, int number)
 {
-    const std::vector<SeasonRow> rows =
-        SeasonRow::table().list(connection, QStringLiteral("WHERE show_id = ? AND number = ?"), showId, number);
+    const std::vector<SeasonRow> rows = SeasonRow::table().list(
+        connection, QStringLiteral("WHERE show_id = ? AND number = ?"), showId, number);
     if (!rows.empty())
         return rows.front();
     SeasonRow row;
@@ -70,7 +71,8 @@ bool writeSeasons(Connection &connection, int showId, const QMap<int, Descriptio
 
 Description sources(const ShowRow &row)
 {
-    return DescriptionLayers::over(StoredJson::description(row.scanned), StoredJson::description(row.provided));
+    return DescriptionLayers::over(StoredJson::description(row.scanned),
+                                   StoredJson::description(row.provided));
 }
 
 } // namespace
@@ -122,7 +124,7 @@ bool ShowTable::store(Connection &connection, const ScannedShow &show)
     row.path = show.key;
     // A sidecar tells at least one of these; a folder's name does not.
     row.wants = show.description.overview.isEmpty() && show.description.genre.isEmpty()
-        && show.description.rating.isEmpty();
+                && show.description.rating.isEmpty();
     const QString scanned = StoredJson::ofDescription(show.description);
     if (row.scanned != scanned)
         row.tried = false;
@@ -136,7 +138,7 @@ bool ShowTable::describe(Connection &connection, int id, const Description &desc
     ShowRow row = ShowRow::table().find(connection, id);
     if (row.id == 0
         || DescriptionLayers::compare(StoredJson::description(row.scanned), description)
-            == DescriptionLayers::Identity::Different)
+               == DescriptionLayers::Identity::Different)
         return false;
     row.provided = StoredJson::ofDescription(description);
     row.tried = true;
@@ -152,6 +154,6 @@ bool ShowTable::ensureSeason(Connection &connection, int showId, int number)
 bool ShowTable::forgetProvided(Connection &connection)
 {
     return connection.execute(QStringLiteral("UPDATE shows SET provided = '', tried = 0"))
-        && connection.execute(QStringLiteral("UPDATE seasons SET provided = ''"))
-        && connection.execute(QStringLiteral("UPDATE items SET provided = '', tried = 0"));
+           && connection.execute(QStringLiteral("UPDATE seasons SET provided = ''"))
+           && connection.execute(QStringLiteral("UPDATE items SET provided = '', tried = 0"));
 }

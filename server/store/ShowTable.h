@@ -11,8 +11,8 @@ namespace ShowTable {
 
 // The show of a folder, made where it is not known yet; 0 on failure.
 [[nodiscard]] int idOf(Connection &connection, const QString &key);
-// The show that a user chose: one with the same identity, or the same title and year, or a new one. The folder is where
-// its episode lies. 0 on failure.
+// The show that a user chose: one with the same identity, or the same title and year, or a new one. The
+// folder is where its episode lies. 0 on failure.
 [[nodiscard]] int idOf(Connection &connection, const Description &chosen, const QString &folder);
 [[nodiscard]] bool store(Connection &connection, const ScannedShow &show);
 // False too for a show of another identity.

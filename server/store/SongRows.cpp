@@ -134,5 +134,6 @@ void SongRow::edit(const SongRecord &record)
         if (wanted != valueOf(asScanned, field) && (field.mayBeEmpty || !isEmpty(wanted)))
             edits.insert(field.name, wanted);
     }
-    edited = edits.isEmpty() ? QString() : QString::fromUtf8(QJsonDocument(edits).toJson(QJsonDocument::Compact));
+    edited =
+        edits.isEmpty() ? QString() : QString::fromUtf8(QJsonDocument(edits).toJson(QJsonDocument::Compact));
 }

@@ -42,7 +42,7 @@ struct SongRow {
 
     // Sets what is listed from what the file says and what was corrected.
     void describe();
-    // Keeps those values of the record that differ from what the file says. A song without title, picture or length is
-    // no correction.
+    // Keeps those values of the record that differ from what the file says. A song without title, picture or
+    // length is no correction.
     void edit(const SongRecord &record);
 };

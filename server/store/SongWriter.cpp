@@ -21,8 +21,8 @@ bool SongWriter::write(SongRow *row)
         return false;
     m_containers.addAlbum(row->albumId);
     return SongRow::table().write(m_connection, *row)
-        && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist))
-        && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre));
+           && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist))
+           && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre));
 }
 
 bool SongWriter::findAlbum(SongRow *row)
@@ -45,11 +45,12 @@ bool SongWriter::findAlbum(SongRow *row)
     row->albumId = static_cast<int>(Counters::take(m_connection, QStringLiteral("albums")));
     const QString folded = TextFold::folded(row->album);
     return row->albumId > 0
-        && m_connection
-               .prepare(QStringLiteral("INSERT INTO albums (id, songs, year, added, sort_title, album_key, title, "
-                                       "search, artist, genre, poster, user_poster) "
-                                       "VALUES (?, 0, 0, 0, ?, ?, ?, ?, ?, '', '', '')"))
-               .run(row->albumId, folded, key, row->album, folded, artist);
+           && m_connection
+                  .prepare(QStringLiteral(
+                      "INSERT INTO albums (id, songs, year, added, sort_title, album_key, title, "
+                      "search, artist, genre, poster, user_poster) "
+                      "VALUES (?, 0, 0, 0, ?, ?, ?, ?, ?, '', '', '')"))
+                  .run(row->albumId, folded, key, row->album, folded, artist);
 }
 
 bool SongWriter::writeNames(const QString &table, int song, const QStringList &names)
@@ -63,7 +64,8 @@ bool SongWriter::writeNames(const QString &table, int song, const QStringList &n
             continue;
         written.insert(key);
         if (!m_connection
-                 .prepare(QStringLiteral("INSERT INTO %1 (song_id, name_key, name) VALUES (?, ?, ?)").arg(table))
+                 .prepare(
+                     QStringLiteral("INSERT INTO %1 (song_id, name_key, name) VALUES (?, ?, ?)").arg(table))
                  .run(song, key, name))
             return false;
     }
@@ -77,18 +79,18 @@ bool SongWriter::inherit(int from, int to)
                                        "AND EXISTS (SELECT 1 FROM songs AS other WHERE other.id = ? "
                                        "AND other.liked = 1)"))
                .run(to, from)
-        && m_connection
-               .prepare(QStringLiteral("UPDATE playlist_songs SET song_id = ? WHERE song_id = ? "
-                                       "AND playlist_id NOT IN "
-                                       "(SELECT playlist_id FROM playlist_songs WHERE song_id = ?)"))
-               .run(to, from, to)
-        && m_connection
-               .prepare(QStringLiteral("UPDATE recent_songs SET song_id = ? WHERE song_id = ? "
-                                       "AND NOT EXISTS (SELECT 1 FROM recent_songs AS other "
-                                       "WHERE other.song_id = ?)"))
-               .run(to, from, to)
-        && Counters::raise(m_connection, Counters::Area::Playlists)
-        && Counters::raise(m_connection, Counters::Area::Recent);
+           && m_connection
+                  .prepare(QStringLiteral("UPDATE playlist_songs SET song_id = ? WHERE song_id = ? "
+                                          "AND playlist_id NOT IN "
+                                          "(SELECT playlist_id FROM playlist_songs WHERE song_id = ?)"))
+                  .run(to, from, to)
+           && m_connection
+                  .prepare(QStringLiteral("UPDATE recent_songs SET song_id = ? WHERE song_id = ? "
+                                          "AND NOT EXISTS (SELECT 1 FROM recent_songs AS other "
+                                          "WHERE other.song_id = ?)"))
+                  .run(to, from, to)
+           && Counters::raise(m_connection, Counters::Area::Playlists)
+           && Counters::raise(m_connection, Counters::Area::Recent);
 }
 
 bool SongWriter::finish()

@@ -1,4 +1,5 @@
-// Writes a song's row and what hangs on it: its album, its artists, its genres. Runs within a transaction of the writer.
+// Writes a song's row and what hangs on it: its album, its artists, its genres. Runs within a transaction of
+// the writer.
 #pragma once
 
 #include "Containers.h"
@@ -12,7 +13,8 @@ public:
 
     // The row as it was read, with changed sources; what follows from them is set here.
     [[nodiscard]] bool write(SongRow *row);
-    // Likes, playlists and the place among the recent songs go from one song to the other, which has precedence.
+    // Likes, playlists and the place among the recent songs go from one song to the other, which has
+    // precedence.
     [[nodiscard]] bool inherit(int from, int to);
     // To be called once at the end: counts and versions.
     [[nodiscard]] bool finish();

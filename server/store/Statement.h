@@ -1,6 +1,6 @@
-// One use of a prepared statement: run it, read its rows. The statement is given back at the end of the use, so that no
-// reader holds an old state of the database open. Values are bound in the order of the question marks. Lives on the
-// thread of its connection.
+// One use of a prepared statement: run it, read its rows. The statement is given back at the end of the use,
+// so that no reader holds an old state of the database open. Values are bound in the order of the question
+// marks. Lives on the thread of its connection.
 #pragma once
 
 #include <QSqlQuery>

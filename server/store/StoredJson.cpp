@@ -173,7 +173,8 @@ ScannedVideo StoredJson::video(const QString &text)
     fromObject(object, &video, kVideoFields);
     video.description = described(object.value(kDescription).toObject());
     const int kind = object.value(kKind).toInt(static_cast<int>(ScannedVideo::Kind::Video));
-    if (kind >= static_cast<int>(ScannedVideo::Kind::Movie) && kind <= static_cast<int>(ScannedVideo::Kind::Adult))
+    if (kind >= static_cast<int>(ScannedVideo::Kind::Movie)
+        && kind <= static_cast<int>(ScannedVideo::Kind::Adult))
         video.kind = static_cast<ScannedVideo::Kind>(kind);
     return video;
 }

@@ -1,5 +1,5 @@
-// What was scanned, provided or chosen for a file, as the text that stands in its row. It is kept whole beside what the
-// lists show, so that a change of one source can be weighed anew against the others.
+// What was scanned, provided or chosen for a file, as the text that stands in its row. It is kept whole
+// beside what the lists show, so that a change of one source can be weighed anew against the others.
 #pragma once
 
 #include "records/ScanRecords.h"

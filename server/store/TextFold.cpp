@@ -2,8 +2,8 @@
 
 QString TextFold::folded(const QString &text)
 {
-    // The block of the marks that belong to letters of Latin, Greek and Cyrillic. The marks of other scripts are
-    // vowels and must stay.
+    // The block of the marks that belong to letters of Latin, Greek and Cyrillic. The marks of other scripts
+    // are vowels and must stay.
     constexpr char16_t kFirstMark = 0x0300;
     constexpr char16_t kLastMark = 0x036f;
     const QString decomposed = text.normalized(QString::NormalizationForm_KD);

@@ -31,7 +31,8 @@ Description knownOf(const VideoRow &row)
 {
     const ScannedVideo scanned = row.scannedVideo();
     if (!row.matched.isEmpty())
-        return DescriptionLayers::withMatched(scanned.description, StoredJson::given(row.matched).description);
+        return DescriptionLayers::withMatched(scanned.description,
+                                              StoredJson::given(row.matched).description);
     return DescriptionLayers::withProvided(scanned.description, scanned.wantsMetadata,
                                            StoredJson::given(row.provided).description);
 }
@@ -127,12 +128,12 @@ bool VideoEdits::describe(int idFile, const Description &description, const QStr
             return false;
         QString *source = row.matched.isEmpty() ? &row.provided : &row.matched;
         GivenDescription given = StoredJson::given(*source);
-        const bool isSame = DescriptionLayers::compare(given.description, description)
-            == DescriptionLayers::Identity::Same;
+        const bool isSame =
+            DescriptionLayers::compare(given.description, description) == DescriptionLayers::Identity::Same;
         if (!row.matched.isEmpty() && !isSame)
             return false;
-        given.description = row.matched.isEmpty() ? description
-                                                  : DescriptionLayers::over(description, given.description);
+        given.description =
+            row.matched.isEmpty() ? description : DescriptionLayers::over(description, given.description);
         given.collection = collection.isEmpty() && isSame ? given.collection : collection;
         *source = StoredJson::ofGiven(given);
         row.tried = true;
@@ -145,7 +146,7 @@ bool VideoEdits::describeShow(int idTvshow, const Description &description,
 {
     return m_database.write(Urgency::Scan, [&](Connection &connection) {
         return ShowTable::describe(connection, idTvshow, description, seasons)
-            && Counters::raise(connection, Counters::Area::Video);
+               && Counters::raise(connection, Counters::Area::Video);
     });
 }
 
@@ -179,9 +180,9 @@ QVector<IVideoLibrary::Wanted> VideoEdits::wanting(bool all, int limit) const
         known.title = row.title;
         wanted << IVideoLibrary::Wanted{row.id, false, known};
     }
-    const std::vector<ShowRow> shows =
-        ShowRow::table().list(m_database.reader(), QStringLiteral("WHERE episodes > 0 %1ORDER BY id LIMIT ?").arg(open),
-                              most - wanted.size());
+    const std::vector<ShowRow> shows = ShowRow::table().list(
+        m_database.reader(), QStringLiteral("WHERE episodes > 0 %1ORDER BY id LIMIT ?").arg(open),
+        most - wanted.size());
     for (const ShowRow &row : shows)
         wanted << IVideoLibrary::Wanted{row.id, true, knownOf(row)};
     return wanted;

@@ -1,5 +1,5 @@
-// What users and providers change of videos. Every operation is one transaction of the writer and false where nothing was
-// stored.
+// What users and providers change of videos. Every operation is one transaction of the writer and false where
+// nothing was stored.
 #pragma once
 
 #include "IVideoLibrary.h"
@@ -16,7 +16,8 @@ public:
                       int number) const;
     // On what a user chose only where it is of the same identity: the same film in another language.
     bool describe(int idFile, const Description &description, const QString &collection) const;
-    bool describeShow(int idTvshow, const Description &description, const QMap<int, Description> &seasons) const;
+    bool describeShow(int idTvshow, const Description &description,
+                      const QMap<int, Description> &seasons) const;
 
     // As the lists have it now: a match's role and place, the description of all sources.
     [[nodiscard]] ScannedVideo scanned(int idFile) const;

@@ -110,7 +110,8 @@ bool VideoLibrary::describeMovie(int idFile, const Description &description, con
     return m_edits.describe(idFile, description, collection);
 }
 
-bool VideoLibrary::describeShow(int idTvshow, const Description &description, const QMap<int, Description> &seasons)
+bool VideoLibrary::describeShow(int idTvshow, const Description &description,
+                                const QMap<int, Description> &seasons)
 {
     return m_edits.describeShow(idTvshow, description, seasons);
 }

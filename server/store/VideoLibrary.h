@@ -1,5 +1,5 @@
-// The video library over the database: lists are read on the caller's connection, changes go through the writer. Any
-// thread.
+// The video library over the database: lists are read on the caller's connection, changes go through the
+// writer. Any thread.
 #pragma once
 
 #include "IVideoLibrary.h"
@@ -16,7 +16,8 @@ public:
     [[nodiscard]] Page<MovieRecord> movies(Role role, const ListRequest &request) const override;
     [[nodiscard]] MovieRecord movie(int idFile) const override;
     [[nodiscard]] Page<GroupRecord> groups(const ListRequest &request) const override;
-    [[nodiscard]] QVector<MovieRecord> groupMovies(int idGroup, SortMethod sort, bool ascending) const override;
+    [[nodiscard]] QVector<MovieRecord> groupMovies(int idGroup, SortMethod sort,
+                                                   bool ascending) const override;
     [[nodiscard]] Page<ShowRecord> shows(const ListRequest &request) const override;
     [[nodiscard]] QVector<SeasonRecord> seasons(int idTvshow) const override;
     [[nodiscard]] SeasonRecord season(int idTvshow, int number) const override;
@@ -35,7 +36,8 @@ public:
     bool matchEpisode(int idFile, const Description &show, const Description &episode, int season,
                       int number) override;
     bool describeMovie(int idFile, const Description &description, const QString &collection) override;
-    bool describeShow(int idTvshow, const Description &description, const QMap<int, Description> &seasons) override;
+    bool describeShow(int idTvshow, const Description &description,
+                      const QMap<int, Description> &seasons) override;
     bool describeEpisode(int idFile, const Description &description) override;
     // A limit of 0 or less is none.
     [[nodiscard]] QVector<Wanted> wantingMetadata(bool all, int limit) const override;

@@ -110,36 +110,34 @@ ScannedVideo VideoRow::scannedVideo() const
 
 const RowTable<ShowRow> &ShowRow::table()
 {
-    static const RowTable<ShowRow> table(QStringLiteral("shows"),
-                                         withDescribed<ShowRow>({
-                                             {"id", &ShowRow::id},
-                                             {"episodes", &ShowRow::episodes},
-                                             {"added", &ShowRow::added},
-                                             {"wants", &ShowRow::wants},
-                                             {"tried", &ShowRow::tried},
-                                             {"show_key", &ShowRow::key},
-                                             {"path", &ShowRow::path},
-                                             {"scanned", &ShowRow::scanned},
-                                             {"provided", &ShowRow::provided},
-                                         }));
+    static const RowTable<ShowRow> table(QStringLiteral("shows"), withDescribed<ShowRow>({
+                                                                      {"id", &ShowRow::id},
+                                                                      {"episodes", &ShowRow::episodes},
+                                                                      {"added", &ShowRow::added},
+                                                                      {"wants", &ShowRow::wants},
+                                                                      {"tried", &ShowRow::tried},
+                                                                      {"show_key", &ShowRow::key},
+                                                                      {"path", &ShowRow::path},
+                                                                      {"scanned", &ShowRow::scanned},
+                                                                      {"provided", &ShowRow::provided},
+                                                                  }));
     return table;
 }
 
 const RowTable<SeasonRow> &SeasonRow::table()
 {
-    static const RowTable<SeasonRow> table(QStringLiteral("seasons"),
-                                           {
-                                               {"id", &SeasonRow::id},
-                                               {"show_id", &SeasonRow::showId},
-                                               {"number", &SeasonRow::number},
-                                               {"year", &SeasonRow::year},
-                                               {"title", &SeasonRow::title},
-                                               {"director", &SeasonRow::director},
-                                               {"actors", &SeasonRow::cast},
-                                               {"overview", &SeasonRow::overview},
-                                               {"poster", &SeasonRow::poster},
-                                               {"scanned", &SeasonRow::scanned},
-                                               {"provided", &SeasonRow::provided},
-                                           });
+    static const RowTable<SeasonRow> table(QStringLiteral("seasons"), {
+                                                                          {"id", &SeasonRow::id},
+                                                                          {"show_id", &SeasonRow::showId},
+                                                                          {"number", &SeasonRow::number},
+                                                                          {"year", &SeasonRow::year},
+                                                                          {"title", &SeasonRow::title},
+                                                                          {"director", &SeasonRow::director},
+                                                                          {"actors", &SeasonRow::cast},
+                                                                          {"overview", &SeasonRow::overview},
+                                                                          {"poster", &SeasonRow::poster},
+                                                                          {"scanned", &SeasonRow::scanned},
+                                                                          {"provided", &SeasonRow::provided},
+                                                                      });
     return table;
 }

@@ -84,14 +84,13 @@ bool VideoScan::setLeads(const QVector<Found> &found)
 {
     return std::all_of(found.begin(), found.end(), [this](const Found &version) {
         return version.id == FileMatcher::kRefused || version.video->leadPath.isEmpty()
-            || version.video->leadPath == version.video->path || setLead(version);
+               || version.video->leadPath == version.video->path || setLead(version);
     });
 }
 
 bool VideoScan::setLead(const Found &version)
 {
-    VideoRow lead =
-        VideoRow::table().findBy(m_connection, QStringLiteral("path"), version.video->leadPath);
+    VideoRow lead = VideoRow::table().findBy(m_connection, QStringLiteral("path"), version.video->leadPath);
     // Without its lead in the library the version stands for itself.
     if (lead.id == 0 || lead.missingSince > 0)
         return true;

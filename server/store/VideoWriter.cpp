@@ -78,7 +78,8 @@ bool VideoWriter::place(VideoRow *row, const ScannedVideo &scanned, const GivenD
         if (scanned.kind != ScannedVideo::Kind::Adult)
             row->kind = static_cast<int>(Role::Movies);
     } else if (scanned.kind == ScannedVideo::Kind::Episode) {
-        row->showId = ShowTable::idOf(m_connection, scanned.showKey.isEmpty() ? row->folder : scanned.showKey);
+        row->showId =
+            ShowTable::idOf(m_connection, scanned.showKey.isEmpty() ? row->folder : scanned.showKey);
         if (row->showId == 0)
             return false;
     }
@@ -105,13 +106,13 @@ int VideoWriter::collectionId(const QString &title, const QString &overview)
             return id;
         return m_connection.prepare(QStringLiteral("UPDATE collections SET overview = ? WHERE id = ?"))
                        .run(overview, id)
-            ? id
-            : 0;
+                   ? id
+                   : 0;
     }
     id = static_cast<int>(Counters::take(m_connection, QStringLiteral("collections")));
-    Statement insert = m_connection.prepare(
-        QStringLiteral("INSERT INTO collections (id, movies, year, added, rating_value, sort_title, name_key, title, "
-                       "search, poster, backdrop, overview) VALUES (?, 0, 0, 0, 0, ?, ?, ?, ?, '', '', ?)"));
+    Statement insert = m_connection.prepare(QStringLiteral(
+        "INSERT INTO collections (id, movies, year, added, rating_value, sort_title, name_key, title, "
+        "search, poster, backdrop, overview) VALUES (?, 0, 0, 0, 0, ?, ?, ?, ?, '', '', ?)"));
     const QString folded = TextFold::folded(title);
     return id > 0 && insert.run(id, folded, key, title, folded, overview) ? id : 0;
 }

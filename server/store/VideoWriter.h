@@ -1,5 +1,5 @@
-// Writes a video's row: weighs its sources, finds its show and collection, and notes which of them change with it. Runs
-// within a transaction of the writer.
+// Writes a video's row: weighs its sources, finds its show and collection, and notes which of them change
+// with it. Runs within a transaction of the writer.
 #pragma once
 
 #include "Containers.h"

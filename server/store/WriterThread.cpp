@@ -56,8 +56,8 @@ bool WriterThread::perform(const Task &task)
         m_connection = std::make_unique<Connection>(m_settings, Connection::Access::Write);
     Connection &connection = *m_connection;
     const bool framed = task.frame == Frame::Transaction;
-    const auto durability = task.urgency == Urgency::User ? Connection::Durability::Full
-                                                          : Connection::Durability::Relaxed;
+    const auto durability =
+        task.urgency == Urgency::User ? Connection::Durability::Full : Connection::Durability::Relaxed;
     if (!connection.isOpen() || (framed && !connection.begin(durability)))
         return false;
     bool stands = false;

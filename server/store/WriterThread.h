@@ -1,5 +1,6 @@
-// The one thread that writes to the database. Takes jobs from any thread and answers when their transaction stands.
-// What a user waits for goes before what a scan stores. The end of the object does first what still waits.
+// The one thread that writes to the database. Takes jobs from any thread and answers when their transaction
+// stands. What a user waits for goes before what a scan stores. The end of the object does first what still
+// waits.
 #pragma once
 
 #include "Connection.h"

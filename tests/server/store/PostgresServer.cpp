@@ -15,10 +15,12 @@ constexpr int kPatienceMs = 60000;
 QString programs()
 {
     const QDir versions(QStringLiteral("/usr/lib/postgresql"));
-    const QStringList names = versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed);
+    const QStringList names =
+        versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed);
     for (const QString &name : names) {
         const QString folder = versions.filePath(name) + QStringLiteral("/bin/");
-        if (QFile::exists(folder + QStringLiteral("initdb")) && QFile::exists(folder + QStringLiteral("postgres")))
+        if (QFile::exists(folder + QStringLiteral("initdb"))
+            && QFile::exists(folder + QStringLiteral("postgres")))
             return folder;
     }
     return {};

@@ -1,5 +1,5 @@
-// A PostgreSQL server of the tests' own: its files and its socket lie in a temporary folder, no port is opened. Ends with
-// the object.
+// A PostgreSQL server of the tests' own: its files and its socket lie in a temporary folder, no port is
+// opened. Ends with the object.
 #pragma once
 
 #include <QProcess>

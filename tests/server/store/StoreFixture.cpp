@@ -35,7 +35,8 @@ StoreFixture::StoreFixture()
         configuration.databaseName = freshDatabase(settings);
     }
     open();
-    videoRoot = roots->addFolder(roots->videoLibraryId(), QStringLiteral("/films"), QStringLiteral("movieScraper"));
+    videoRoot =
+        roots->addFolder(roots->videoLibraryId(), QStringLiteral("/films"), QStringLiteral("movieScraper"));
     musicRoot = roots->addFolder(roots->musicLibraryId(), QStringLiteral("/music"), {});
 }
 
@@ -71,7 +72,7 @@ ScannedVideo StoreFixture::film(const QString &path, const QString &title, int y
     ScannedVideo video;
     video.path = path;
     video.realPath = path;
-    video.stamp = {1000 + qint64(qHash(title) % 100000), 2000};
+    video.stamp = {1000 + qint64(qHash(title)), 2000};
     video.kind = ScannedVideo::Kind::Movie;
     video.description.title = title;
     video.description.year = year;
@@ -94,7 +95,7 @@ ScannedSong StoreFixture::song(const QString &path, const QString &title, const 
 {
     ScannedSong song;
     song.path = path;
-    song.stamp = {1000 + qint64(qHash(title) % 100000), 3000};
+    song.stamp = {1000 + qint64(qHash(title)), 3000};
     song.title = title;
     song.artist = artist;
     song.album = album;

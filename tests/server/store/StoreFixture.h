@@ -1,5 +1,5 @@
-// A library in a database of its own: a file, or where the environment names a server's socket (kServerVariable), a
-// fresh database of that server. Time stands still until a test moves it.
+// A library in a database of its own: a file, or where the environment names a server's socket
+// (kServerVariable), a fresh database of that server. Time stands still until a test moves it.
 #pragma once
 
 #include "base/DataFolder.h"

@@ -1,5 +1,5 @@
-// Changes a library as fast as it can, one user and one scan at a time, and says after each change of the user's that it
-// stands. Arguments: the data folder. Ends by being killed.
+// Changes a library as fast as it can, one user and one scan at a time, and says after each change of the
+// user's that it stands. Arguments: the data folder. Ends by being killed.
 #include "base/DataFolder.h"
 #include "base/ServerConfiguration.h"
 #include "store/Database.h"

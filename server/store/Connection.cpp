@@ -75,7 +75,9 @@ Statement Connection::prepare(const QString &sql)
     if (known != m_prepared.end())
         return Statement(&known->second, &m_counters);
     QSqlQuery query(m_database);
-    query.setForwardOnly(true);
+    // A server's rows are fetched at once: read one by one they would shut out every other statement
+    // meanwhile.
+    query.setForwardOnly(isFile());
     if (!isOpen() || !query.prepare(sql)) {
         qWarning().noquote() << "[store] cannot prepare:" << query.lastError().text() << "in" << sql;
         return Statement(nullptr, &m_counters);

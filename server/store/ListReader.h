@@ -18,9 +18,9 @@
 // A list before it is sorted and restricted.
 struct ListSource {
     QString name;
-    QString tables;    // what stands behind FROM
-    QString condition; // what belongs to the list, with question marks for the values
-    QStringList values;
+    QString tables;     // what stands behind FROM
+    QString condition;  // what belongs to the list, with question marks for the values
+    QStringList values; // numbers as text: the columns they are compared with are numbers
     QString id{QStringLiteral("id")};
     QVector<Counters::Area> areas;     // whose changes change the list
     QMap<SortMethod, QString> columns; // the method of others is the title's

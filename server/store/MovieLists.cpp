@@ -125,11 +125,11 @@ QVector<MovieRecord> MovieLists::groupMovies(int idGroup, SortMethod sort, bool 
     request.sort = sort;
     request.ascending = ascending;
     request.end = std::numeric_limits<int>::max();
-    const QString condition =
-        QStringLiteral("group_id = %1 AND kind = %2").arg(idGroup).arg(static_cast<int>(Role::Movies));
-    return m_reader
-        .page(itemSource(QStringLiteral("group"), condition), request, movieTable(), &MovieRecord::idFile)
-        .rows;
+    ListSource source =
+        itemSource(QStringLiteral("group"),
+                   QStringLiteral("group_id = ? AND kind = %1").arg(static_cast<int>(Role::Movies)));
+    source.values << QString::number(idGroup);
+    return m_reader.page(source, request, movieTable(), &MovieRecord::idFile).rows;
 }
 
 QStringList MovieLists::genres(Role role) const

@@ -58,37 +58,41 @@ ListSource songSource(const QString &name)
 }
 
 // The songs of another table's rows.
-ListSource joined(const QString &name, const QString &table, const QString &condition, const QString &value)
+ListSource joined(const QString &name, const QString &table)
 {
     ListSource source = songSource(name);
     source.tables = QStringLiteral("songs JOIN %1 AS part ON part.song_id = songs.id").arg(table);
     source.id = QStringLiteral("songs.id");
     source.ties = QStringLiteral("sort_title, songs.id");
-    if (!condition.isEmpty()) {
-        source.condition += QStringLiteral(" AND ") + condition;
-        source.values << value;
-    }
+    return source;
+}
+
+// The songs that the other table has under a name.
+ListSource named(const QString &name, const QString &table, const QString &value)
+{
+    ListSource source = joined(name, table);
+    source.condition += QStringLiteral(" AND part.name_key = ?");
+    source.values << TextFold::nameKey(value);
     return source;
 }
 
 ListSource albumSource(int idAlbum)
 {
     ListSource source = songSource(QStringLiteral("album"));
-    source.condition += QStringLiteral(" AND album_id = %1").arg(idAlbum);
+    source.condition += QStringLiteral(" AND album_id = ?");
+    source.values << QString::number(idAlbum);
     source.ties = QStringLiteral("disc, track_number, track, sort_title, id");
     return source;
 }
 
 ListSource artistSource(const QString &artist)
 {
-    return joined(QStringLiteral("artist"), QStringLiteral("song_artists"),
-                  QStringLiteral("part.name_key = ?"), TextFold::nameKey(artist));
+    return named(QStringLiteral("artist"), QStringLiteral("song_artists"), artist);
 }
 
 ListSource genreSource(const QString &genre)
 {
-    return joined(QStringLiteral("genre"), QStringLiteral("song_genres"), QStringLiteral("part.name_key = ?"),
-                  TextFold::nameKey(genre));
+    return named(QStringLiteral("genre"), QStringLiteral("song_genres"), genre);
 }
 
 } // namespace
@@ -111,7 +115,7 @@ Page<SongRecord> MusicLists::songs(const ListRequest &request) const
 
 Page<SongRecord> MusicLists::recentSongs(const ListRequest &request) const
 {
-    ListSource source = joined(QStringLiteral("recent"), QStringLiteral("recent_songs"), {}, {});
+    ListSource source = joined(QStringLiteral("recent"), QStringLiteral("recent_songs"));
     source.areas << Counters::Area::Recent;
     source.columns[SortMethod::ModifiedTime] = QStringLiteral("part.position");
     return songPage(source, request);
@@ -119,8 +123,9 @@ Page<SongRecord> MusicLists::recentSongs(const ListRequest &request) const
 
 Page<SongRecord> MusicLists::playlistSongs(int idPlayList, const ListRequest &request) const
 {
-    ListSource source = joined(QStringLiteral("playlist"), QStringLiteral("playlist_songs"), {}, {});
-    source.condition += QStringLiteral(" AND part.playlist_id = %1").arg(idPlayList);
+    ListSource source = joined(QStringLiteral("playlist"), QStringLiteral("playlist_songs"));
+    source.condition += QStringLiteral(" AND part.playlist_id = ?");
+    source.values << QString::number(idPlayList);
     source.areas << Counters::Area::Playlists;
     source.columns[SortMethod::DateAdded] = QStringLiteral("part.position");
     return songPage(source, request);

@@ -1,6 +1,6 @@
 #include "ShowLists.h"
 
-#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -88,18 +88,17 @@ ShowRecord ShowLists::show(int idTvshow) const
     return showTable().find(m_database.reader(), idTvshow);
 }
 
-QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, const QString &condition) const
+QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, int first, int last) const
 {
     // The season of the index on episodes: one look for each row.
     const std::vector<SeasonRecord> rows = seasonTable().list(
         m_database.reader(),
-        QStringLiteral(
-            "WHERE show_id = ? %1 AND EXISTS (SELECT 1 FROM items WHERE items.show_id = seasons.show_id "
-            "AND items.season = seasons.number AND items.kind = %2 AND items.missing_since = 0 "
-            "AND items.lead_id = 0) ORDER BY number")
-            .arg(condition)
+        QStringLiteral("WHERE show_id = ? AND number >= ? AND number <= ? AND EXISTS (SELECT 1 FROM items "
+                       "WHERE items.show_id = seasons.show_id "
+                       "AND items.season = seasons.number AND items.kind = %1 AND items.missing_since = 0 "
+                       "AND items.lead_id = 0) ORDER BY number")
             .arg(static_cast<int>(Role::TvShows)),
-        idTvshow);
+        idTvshow, first, last);
     QVector<SeasonRecord> seasons;
     if (rows.empty())
         return seasons;
@@ -115,8 +114,8 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, const QString &condit
             Statement first =
                 m_database.reader().prepare(QStringLiteral("SELECT MIN(year) FROM items ") + episodesOfShow()
                                             + QStringLiteral(" AND season = ? AND year > 0"));
-            if (first.run(idTvshow, season.iSeason) && first.next())
-                season.year = first.integer(0);
+            if (earliest.run(idTvshow, season.iSeason) && earliest.next())
+                season.year = earliest.integer(0);
         }
         seasons << season;
     }
@@ -125,12 +124,12 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, const QString &condit
 
 QVector<SeasonRecord> ShowLists::seasons(int idTvshow) const
 {
-    return readSeasons(idTvshow, {});
+    return readSeasons(idTvshow, 0, std::numeric_limits<int>::max());
 }
 
 SeasonRecord ShowLists::season(int idTvshow, int number) const
 {
-    const QVector<SeasonRecord> found = readSeasons(idTvshow, QStringLiteral("AND number = %1").arg(number));
+    const QVector<SeasonRecord> found = readSeasons(idTvshow, number, number);
     return found.isEmpty() ? SeasonRecord() : found.first();
 }
 

@@ -24,7 +24,7 @@ public:
 
 private:
     [[nodiscard]] ShowRecord show(int idTvshow) const;
-    [[nodiscard]] QVector<SeasonRecord> readSeasons(int idTvshow, const QString &condition) const;
+    [[nodiscard]] QVector<SeasonRecord> readSeasons(int idTvshow, int first, int last) const;
     [[nodiscard]] EpisodeRecord completed(EpisodeRecord episode, const ShowRecord &show) const;
 
     const Database &m_database;

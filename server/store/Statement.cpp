@@ -36,8 +36,12 @@ void Statement::bind(double value)
 
 void Statement::bind(const QString &value)
 {
-    if (m_query)
-        m_query->bindValue(m_position++, value.isNull() ? QStringLiteral("") : value);
+    if (!m_query)
+        return;
+    // A tag may hold any character; a server takes no text with this one, and a batch must not fail for it.
+    QString text = value.isNull() ? QStringLiteral("") : value;
+    text.remove(QChar(QChar::Null));
+    m_query->bindValue(m_position++, text);
 }
 
 bool Statement::execute()

@@ -1,0 +1,16 @@
+#include "ProcessLimits.h"
+
+#include <sys/resource.h>
+
+namespace ProcessLimits {
+
+void raiseOpenFiles()
+{
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return;
+    limit.rlim_cur = limit.rlim_max;
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+} // namespace ProcessLimits

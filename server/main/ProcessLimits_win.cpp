@@ -1,0 +1,8 @@
+#include "ProcessLimits.h"
+
+namespace ProcessLimits {
+
+// Sockets have no such limit here.
+void raiseOpenFiles() {}
+
+} // namespace ProcessLimits

@@ -1,0 +1,138 @@
+// The program's life with libraries in memory: up in order, answering, and down again.
+#include "RawClient.h"
+
+#include "../rpc/LibraryFakes.h"
+#include "main/ServerApplication.h"
+#include "main/StopSignals.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace {
+
+struct FakeParts final : IServerParts {
+    explicit FakeParts(QStringList &steps)
+        : log(steps)
+    {
+    }
+    ~FakeParts() override { log.append(QStringLiteral("destroyed")); }
+    bool open(QString &error) override
+    {
+        error = QStringLiteral("broken");
+        log.append(QStringLiteral("open"));
+        return opens;
+    }
+    void start() override { log.append(QStringLiteral("start")); }
+    void stop() override { log.append(QStringLiteral("stop")); }
+    ILibraryRoots &roots() override { return fakeRoots; }
+    IVideoLibrary &videos() override { return fakeVideos; }
+    IMusicLibrary &music() override { return fakeMusic; }
+    IServerTasks &tasks() override { return fakeTasks; }
+    IMetadataService &metadata() override { return fakeMetadata; }
+
+    QStringList &log;
+    bool opens{true};
+    FakeRoots fakeRoots;
+    FakeVideos fakeVideos;
+    FakeMusic fakeMusic;
+    FakeTasks fakeTasks;
+    FakeMetadata fakeMetadata;
+};
+
+class ServerApplicationTest : public testing::Test {
+protected:
+    [[nodiscard]] ServerApplication::PartsFactory factory()
+    {
+        return [this](const DataFolder &, const ServerConfiguration &) {
+            auto parts = std::make_unique<FakeParts>(m_steps);
+            parts->opens = m_opens;
+            return parts;
+        };
+    }
+    [[nodiscard]] ServerApplication::Settings settings(const QString &folder) const
+    {
+        ServerApplication::Settings settings;
+        settings.dataFolder = folder;
+        settings.http.port = 0;
+        return settings;
+    }
+
+    QTemporaryDir m_folder;
+    QStringList m_steps;
+    bool m_opens{true};
+};
+
+} // namespace
+
+TEST_F(ServerApplicationTest, ComesUpAnswersAndGoesDownInOrder)
+{
+    ServerApplication server(settings(m_folder.path()), factory());
+    ASSERT_EQ(server.start(), ServerApplication::Ended);
+    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,start"));
+    EXPECT_TRUE(
+        Http::ask(server.port(), Http::post(R"({"method":"Server.Heartbeat"})")).body.contains("\"ret\":0"));
+    EXPECT_TRUE(Http::ask(server.port(), Http::post("nonsense")).body.contains("\"ret\":1"));
+    QFile picture(m_folder.filePath(QStringLiteral("images/ab.jpg")));
+    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
+    const QByteArray bytes("\xff\xd8\xff\xe0 a picture", 14);
+    picture.write(bytes);
+    picture.close();
+    const RawReply reply = Http::ask(server.port(), Http::get("/image/ab.jpg"));
+    EXPECT_EQ(reply.status, 200);
+    EXPECT_EQ(reply.body, bytes);
+    EXPECT_TRUE(reply.head.contains("Content-Type: image/jpeg"));
+    EXPECT_EQ(Http::ask(server.port(), Http::get("/image/..%2Fserver.log")).status, 404);
+    server.stop();
+    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,start,stop,destroyed"));
+    EXPECT_TRUE(QFile::exists(m_folder.filePath(QStringLiteral("server.log"))));
+    EXPECT_EQ(server.start(), ServerApplication::Ended);
+}
+
+TEST_F(ServerApplicationTest, TwoServersNeverShareADataFolder)
+{
+    ServerApplication first(settings(m_folder.path()), factory());
+    ASSERT_EQ(first.start(), ServerApplication::Ended);
+    ServerApplication second(settings(m_folder.path()), factory());
+    EXPECT_EQ(second.start(), ServerApplication::AlreadyRunning);
+    first.stop();
+    EXPECT_EQ(second.start(), ServerApplication::Ended);
+}
+
+TEST_F(ServerApplicationTest, APortThatIsTakenEndsTheStartWithItsOwnStatus)
+{
+    ServerApplication first(settings(m_folder.filePath(QStringLiteral("one"))), factory());
+    ASSERT_EQ(first.start(), ServerApplication::Ended);
+    ServerApplication::Settings same = settings(m_folder.filePath(QStringLiteral("two")));
+    same.http.port = first.port();
+    m_steps.clear();
+    ServerApplication second(same, factory());
+    EXPECT_EQ(second.start(), ServerApplication::PortTaken);
+    EXPECT_EQ(int(ServerApplication::PortTaken), 3);
+    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,destroyed"));
+}
+
+TEST_F(ServerApplicationTest, WhatCannotWorkEndsTheStart)
+{
+    QFile file(m_folder.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ServerApplication inFile(settings(file.fileName()), factory());
+    EXPECT_EQ(inFile.start(), ServerApplication::NoDataFolder);
+    m_opens = false;
+    ServerApplication broken(settings(m_folder.filePath(QStringLiteral("data"))), factory());
+    EXPECT_EQ(broken.start(), ServerApplication::NoDatabase);
+}
+
+TEST_F(ServerApplicationTest, AWishOfTheSystemToEndComesThroughTheEventLoop)
+{
+    const StopSignals stopSignals;
+    QSignalSpy spy(&stopSignals, &StopSignals::stopRequested);
+    ::raise(SIGTERM);
+    EXPECT_EQ(spy.count(), 0);
+    EXPECT_TRUE(spy.wait(10000));
+    EXPECT_EQ(spy.count(), 1);
+}

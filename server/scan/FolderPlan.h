@@ -1,0 +1,36 @@
+// Decides what a scan of a library folder has to read, and what is gone at its end.
+//
+// Owns the fingerprints of the last scan. One thread.
+#pragma once
+
+#include "WalkedFolder.h"
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+class FolderPlan final {
+public:
+    explicit FolderPlan(const QHash<QString, QByteArray> &known)
+        : m_known(known)
+    {
+    }
+
+    // Names, sizes and times of all that is listed, and the sidecars above.
+    [[nodiscard]] static QByteArray fingerprint(const WalkedFolder &folder);
+    // Of the sidecars in the folder that tell about what lies below it, and of those above.
+    [[nodiscard]] static QByteArray sidecarDigest(const WalkedFolder &folder);
+
+    // Takes the folder as found. True when it has to be read, with the fingerprint to store.
+    [[nodiscard]] bool take(const WalkedFolder &folder, QByteArray &fingerprint);
+    [[nodiscard]] bool isKnown(const QString &path) const { return m_known.contains(path); }
+    // A library folder that held something and now holds nothing is one that is not mounted.
+    [[nodiscard]] bool looksUnmounted(const WalkedFolder &root) const;
+    // Known folders that the walk did not come by, but for those below unreadable ones.
+    [[nodiscard]] QStringList gone() const;
+
+private:
+    QHash<QString, QByteArray> m_known;
+    QSet<QString> m_seen;
+    QStringList m_unreadable;
+};

@@ -1,0 +1,214 @@
+#include "ProbePool.h"
+
+#include <QDebug>
+#include <QThread>
+
+#include <algorithm>
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <list>
+#include <mutex>
+#include <thread>
+
+namespace {
+
+constexpr std::size_t QueuePerWorker = 32;
+using Clock = MediaDeadline::Clock;
+
+struct Job {
+    std::shared_ptr<FolderWork> work;
+    std::size_t index{0};
+};
+
+struct Worker {
+    std::thread thread;
+    Job job; // empty while it waits
+    Clock::time_point since;
+    bool isGivenUp{false};
+};
+
+} // namespace
+
+// Shared with the threads: one that is stuck may outlive the pool.
+struct ProbePool::State {
+    std::shared_ptr<IFileReader> reader;
+    CancelFlag cancelled;
+    Limits limits;
+
+    std::mutex mutex;
+    std::condition_variable work;     // for the workers
+    std::condition_variable progress; // for the scan
+    std::deque<Job> queue;
+    std::list<std::shared_ptr<Worker>> workers;
+    int stuck{0};
+    bool ends{false};
+
+    static void run(const std::shared_ptr<State> &state, const std::shared_ptr<Worker> &self);
+    void finish(const Job &job, FileFacts &&facts);
+};
+
+void ProbePool::State::finish(const Job &job, FileFacts &&facts)
+{
+    job.work->facts[job.index] = std::move(facts);
+    --job.work->waiting;
+    progress.notify_all();
+}
+
+void ProbePool::State::run(const std::shared_ptr<State> &state, const std::shared_ptr<Worker> &self)
+{
+    std::unique_lock lock(state->mutex);
+    while (true) {
+        state->work.wait(lock, [&] { return state->ends || !state->queue.empty(); });
+        if (state->ends)
+            return;
+        const Job job = state->queue.front();
+        state->queue.pop_front();
+        self->job = job;
+        self->since = Clock::now();
+        const FileTask task = job.work->tasks[job.index];
+        lock.unlock();
+        FileFacts facts;
+        try {
+            const MediaDeadline deadline(state->limits.perFile, state->cancelled.get());
+            facts = state->reader->read(task, deadline);
+        } catch (const std::exception &error) {
+            qWarning().noquote() << "[scan]" << task.path << "cannot be read:" << error.what();
+        }
+        lock.lock();
+        if (self->isGivenUp)
+            return;
+        self->job = {};
+        state->finish(job, std::move(facts));
+    }
+}
+
+ProbePool::ProbePool(std::shared_ptr<IFileReader> reader, CancelFlag cancelled, Limits limits)
+    : m_state(std::make_shared<State>())
+    , m_workers(limits.workers > 0 ? limits.workers : std::max(1, QThread::idealThreadCount()))
+{
+    m_state->reader = std::move(reader);
+    m_state->cancelled = std::move(cancelled);
+    m_state->limits = limits;
+    std::lock_guard lock(m_state->mutex);
+    for (int i = 0; i < m_workers; ++i)
+        startWorker();
+}
+
+ProbePool::~ProbePool()
+{
+    std::list<std::shared_ptr<Worker>> workers;
+    {
+        std::unique_lock lock(m_state->mutex);
+        m_state->queue.clear();
+        const auto isBusy = [](const std::shared_ptr<Worker> &worker) { return worker->job.work != nullptr; };
+        while (std::any_of(m_state->workers.begin(), m_state->workers.end(), isBusy)) {
+            m_state->progress.wait_until(lock, nextStuck());
+            replaceStuck();
+        }
+        m_state->ends = true;
+        workers.swap(m_state->workers);
+    }
+    m_state->work.notify_all();
+    for (const std::shared_ptr<Worker> &worker : workers)
+        worker->thread.join();
+}
+
+void ProbePool::startWorker()
+{
+    auto worker = std::make_shared<Worker>();
+    m_state->workers.push_back(worker);
+    // It cannot look at itself before this is done: its first step takes the lock that is held here.
+    worker->thread = std::thread([state = m_state, worker] { State::run(state, worker); });
+}
+
+template<typename Condition>
+bool ProbePool::waitUntil(Condition condition)
+{
+    std::unique_lock lock(m_state->mutex);
+    while (!condition()) {
+        if (*m_state->cancelled)
+            return false;
+        m_state->progress.wait_until(lock, nextStuck());
+        replaceStuck();
+    }
+    return !*m_state->cancelled;
+}
+
+// When the next thread is to be given up; the lock is held.
+MediaDeadline::Clock::time_point ProbePool::nextStuck() const
+{
+    Clock::time_point next = Clock::now() + std::chrono::hours(1);
+    for (const std::shared_ptr<Worker> &worker : m_state->workers) {
+        if (worker->job.work)
+            next = std::min(next, worker->since + m_state->limits.perFile + m_state->limits.grace);
+    }
+    return next;
+}
+
+void ProbePool::replaceStuck()
+{
+    const Clock::time_point now = Clock::now();
+    for (auto it = m_state->workers.begin(); it != m_state->workers.end();) {
+        const std::shared_ptr<Worker> worker = *it;
+        if (!worker->job.work || now < worker->since + m_state->limits.perFile + m_state->limits.grace) {
+            ++it;
+            continue;
+        }
+        const Job job = worker->job;
+        qWarning().noquote() << "[scan] given up:" << job.work->tasks[job.index].path << "takes too long";
+        worker->isGivenUp = true;
+        worker->thread.detach();
+        it = m_state->workers.erase(it);
+        ++m_state->stuck;
+        m_state->finish(job, {});
+        startWorker();
+    }
+}
+
+bool ProbePool::submit(const std::shared_ptr<FolderWork> &work)
+{
+    {
+        std::lock_guard lock(m_state->mutex);
+        work->facts.resize(work->tasks.size());
+        work->waiting = int(work->tasks.size());
+    }
+    const std::size_t longest = QueuePerWorker * std::size_t(m_workers);
+    for (std::size_t index = 0; index < work->tasks.size(); ++index) {
+        if (!waitUntil([&] { return m_state->queue.size() < longest; }))
+            return false;
+        std::lock_guard lock(m_state->mutex);
+        m_state->queue.push_back({work, index});
+        m_state->work.notify_one();
+    }
+    return !*m_state->cancelled;
+}
+
+bool ProbePool::isDone(const std::shared_ptr<FolderWork> &work) const
+{
+    std::lock_guard lock(m_state->mutex);
+    return work->waiting == 0;
+}
+
+bool ProbePool::waitFor(const std::shared_ptr<FolderWork> &work)
+{
+    return waitUntil([&] { return work->waiting == 0; });
+}
+
+void ProbePool::clear()
+{
+    std::lock_guard lock(m_state->mutex);
+    m_state->queue.clear();
+}
+
+int ProbePool::takeStuck()
+{
+    std::lock_guard lock(m_state->mutex);
+    return std::exchange(m_state->stuck, 0);
+}
+
+void ProbePool::wake()
+{
+    std::lock_guard lock(m_state->mutex);
+    m_state->progress.notify_all();
+}

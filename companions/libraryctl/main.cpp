@@ -8,9 +8,11 @@
 #include "LibraryRun.h"
 
 #include "library/IServerStarter.h"
+#include "library/JsonRpc.h"
 #include "library/LibraryPause.h"
 #include "library/LibraryTransport.h"
 #include "library/MediaServerManager.h"
+#include "library/VideoProtocol.h"
 
 #include "core/SettingsManager.h"
 
@@ -83,6 +85,10 @@ int main(int argc, char **argv)
         parts.dataFolder = QDir(line.value(data)).absolutePath();
         QDir().mkpath(parts.dataFolder);
     }
+    // A server that answers is attached to; a second one would only quarrel with it about the port.
+    const JsonRpc rpc(*parts.transport, parts.port);
+    if (VideoProtocol(rpc).libraryId())
+        parts.program.clear();
     MediaServerManager manager(std::move(parts));
     const LibraryRun run(manager, wish);
     return QCoreApplication::exec();

@@ -10,6 +10,8 @@
 
 #include <QDebug>
 
+#include <exception>
+
 LibraryLoads::LibraryLoads(const Parts &parts)
     : m_parts(parts)
 {
@@ -75,10 +77,15 @@ void LibraryLoads::load(LibraryRole role)
 {
     State &own = state(role);
     const auto aborted = [this, &own] { return own.isAborted || m_isEnding; };
-    if (role == LibraryRole::Music)
-        m_parts.musicLoader.load(aborted);
-    else
-        m_parts.videoLoader.load(role, aborted);
+    try {
+        if (role == LibraryRole::Music)
+            m_parts.musicLoader.load(aborted);
+        else
+            m_parts.videoLoader.load(role, aborted);
+    } catch (const std::exception &error) {
+        // A list too large for this machine: what there is stays, and the views learn that the load is over.
+        qInfo() << "[library] a load ended by an error:" << error.what();
+    }
     const bool isWhole = !aborted();
     if (isWhole)
         m_parts.statistics.report(role, countOf(role));

@@ -71,13 +71,16 @@ bool LibraryThreads::start(Worker worker, WhenBusy whenBusy)
 
 void LibraryThreads::wait(Worker worker)
 {
-    m_slots[worker].thread->wait();
+    Slot &slot = m_slots[worker];
+    slot.thread->wait();
+    // What the work has written is to be seen by whoever waited; Qt's own wait is not known to the sanitizer.
+    std::lock_guard lock(slot.mutex);
 }
 
 void LibraryThreads::waitForAll()
 {
-    for (Slot &slot : m_slots)
-        slot.thread->wait();
+    for (int worker = 0; worker < Count; ++worker)
+        wait(Worker(worker));
 }
 
 LibraryThreads::Worker LibraryThreads::ofRole(LibraryRole role)

@@ -178,6 +178,9 @@ void MediaServerManager::shutDown()
 
 void MediaServerManager::killServerProcess()
 {
+    // Without a library there is no server of this copy; one that runs beside it is somebody else's.
+    if (qEnvironmentVariableIsSet(kOffVariable))
+        return;
     if (MediaServerManager *manager = s_instance) {
         manager->shutDown();
         manager->m_machine->parts.starter->release();

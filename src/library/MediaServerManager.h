@@ -63,7 +63,7 @@ public:
     // Ends the threads' waits and loads, without waiting for them. Nothing starts after that.
     void shutDown();
     // Ends the process that instance() holds, then every server of this user that was started from this
-    // program's folder, whoever started it.
+    // program's folder, whoever started it. Nothing while the library is off.
     static void killServerProcess();
     // The server's program beside the player.
     [[nodiscard]] static QString serverPath();

@@ -19,11 +19,13 @@
 #include "core/SingleInstance.h"
 #include "keys/AppEventFilter.h"
 #include "library/MediaServerManager.h"
+#include "library/ViewTypeManager.h"
 #include "online/AdvertismentManagerEx.h"
 #include "online/PlayInfoStatisticsHelper.h"
 #include "online/UpdateManager.h"
 #include "online/WebServiceManager.h"
 #include "pc/NormalMainWindow.h"
+#include "pictures/PictureManager.h"
 #include "platform/Pointer.h"
 #include "platform/ScreenSaver.h"
 #include "platform/SystemLanguage.h"
@@ -274,6 +276,7 @@ void StartupServices::startLibrary()
     };
     LanguageManager::instance()->setMediaServerLanguageSink(tell);
     tell(LanguageManager::localeWord(SettingsManager::instance()->language()));
+    ViewTypeManager::instance()->setPicturesDropper([] { PictureManager::instance()->clearAll(); });
     QTimer::singleShot(kLibraryDelayMs, m_library.get(), [this] { m_library->begin(m_libraryFolder); });
 }
 

@@ -51,6 +51,24 @@ TEST(CommandLine, AddPlanWithInstallJoins)
     EXPECT_FALSE(line({"/install"}).joinsPlan());
 }
 
+TEST(CommandLine, AFolderForTheLibraryIsNoFile)
+{
+    const CommandLine alone = line({"--library", "/media"});
+    EXPECT_EQ(alone.libraryFolder(), "/media");
+    EXPECT_FALSE(alone.hasFileArgument());
+    EXPECT_EQ(alone.arguments(), QStringList{kProgram});
+
+    const CommandLine both = line({"/films/a.mkv", "--library", "/media", "fullscreen"});
+    EXPECT_EQ(both.libraryFolder(), "/media");
+    EXPECT_EQ(both.fileArgument(), "/films/a.mkv");
+    EXPECT_EQ(both.startFlags(), CommandLine::FullScreenFlag);
+
+    const CommandLine cut = line({"--library"});
+    EXPECT_TRUE(cut.libraryFolder().isEmpty());
+    EXPECT_FALSE(cut.hasFileArgument());
+    EXPECT_TRUE(CommandLine({"--library", "/media"}).libraryFolder().isEmpty());
+}
+
 TEST(CommandLine, InstallModeIsRemovedAndNeverCountsAsAFile)
 {
     const CommandLine alone = line({"--installmode"});

@@ -32,6 +32,11 @@ void Containers::addVideo(int showId, int groupId)
         m_collections.insert(groupId);
 }
 
+void Containers::addCollection(int groupId)
+{
+    addVideo(0, groupId);
+}
+
 void Containers::addAlbum(int albumId)
 {
     m_songs = true;
@@ -76,6 +81,17 @@ bool Containers::refreshCollection(Connection &connection, int id)
     double rating = 0;
     QString poster;
     QString backdrop;
+    {
+        // Pictures of its own go before those of its films.
+        Statement own = connection.prepare(
+            QStringLiteral("SELECT own_poster, own_backdrop FROM collections WHERE id = ?"));
+        if (!own.run(id))
+            return false;
+        if (own.next()) {
+            poster = own.text(0);
+            backdrop = own.text(1);
+        }
+    }
     {
         Statement read = connection.prepare(
             QStringLiteral("SELECT year, added, rating_value, poster, backdrop FROM items "

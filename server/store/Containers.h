@@ -12,6 +12,9 @@ public:
     void addVideo(int showId, int groupId);
     void addAlbum(int albumId);
 
+    // The collection was described anew.
+    void addCollection(int groupId);
+
     // Raises the versions of the lists that it changes.
     [[nodiscard]] bool refresh(Connection &connection) const;
     // Removes those without any file, missing ones counted too.

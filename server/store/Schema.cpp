@@ -70,7 +70,7 @@ Migration video()
                 "year INTEGER NOT NULL, added BIGINT NOT NULL, rating_value {real} NOT NULL, "
                 "sort_title {text} NOT NULL, name_key {text} NOT NULL UNIQUE, title {text} NOT NULL, "
                 "search {text} NOT NULL, poster {text} NOT NULL, backdrop {text} NOT NULL, "
-                "overview {text} NOT NULL)"),
+                "overview {text} NOT NULL, own_poster {text} NOT NULL, own_backdrop {text} NOT NULL)"),
         }};
 }
 

@@ -1,11 +1,13 @@
 #include "VideoEdits.h"
 
+#include "Containers.h"
 #include "Counters.h"
 #include "Database.h"
 #include "DescriptionLayers.h"
 #include "FileTable.h"
 #include "ShowTable.h"
 #include "StoredJson.h"
+#include "TextFold.h"
 #include "VideoRows.h"
 #include "VideoWriter.h"
 
@@ -147,6 +149,35 @@ bool VideoEdits::describeShow(int idTvshow, const Description &description,
     return m_database.write(Urgency::Scan, [&](Connection &connection) {
         return ShowTable::describe(connection, idTvshow, description, seasons)
                && Counters::raise(connection, Counters::Area::Video);
+    });
+}
+
+bool VideoEdits::describeCollection(const QString &collection, const Description &description) const
+{
+    return m_database.write(Urgency::Scan, [&](Connection &connection) {
+        int id = 0;
+        {
+            Statement known =
+                connection.prepare(QStringLiteral("SELECT id FROM collections WHERE name_key = ?"));
+            if (!known.run(TextFold::nameKey(collection)) || !known.next())
+                return false;
+            id = known.integer(0);
+        }
+        const struct {
+            const QString statement;
+            const QString &value;
+        } rows[] = {
+            {QStringLiteral("UPDATE collections SET overview = ? WHERE id = ?"), description.overview},
+            {QStringLiteral("UPDATE collections SET own_poster = ? WHERE id = ?"), description.poster},
+            {QStringLiteral("UPDATE collections SET own_backdrop = ? WHERE id = ?"), description.backdrop},
+        };
+        for (const auto &row : rows) {
+            if (!row.value.isEmpty() && !connection.prepare(row.statement).run(row.value, id))
+                return false;
+        }
+        Containers containers;
+        containers.addCollection(id);
+        return containers.refresh(connection);
     });
 }
 

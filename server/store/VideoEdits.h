@@ -19,6 +19,9 @@ public:
     bool describeShow(int idTvshow, const Description &description,
                       const QMap<int, Description> &seasons) const;
 
+    // By the name that its films carry; what is empty stays as it was.
+    bool describeCollection(const QString &collection, const Description &description) const;
+
     // As the lists have it now: a match's role and place, the description of all sources.
     [[nodiscard]] ScannedVideo scanned(int idFile) const;
     [[nodiscard]] QVector<IVideoLibrary::Wanted> wanting(bool all, int limit) const;

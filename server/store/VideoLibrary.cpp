@@ -110,6 +110,11 @@ bool VideoLibrary::describeMovie(int idFile, const Description &description, con
     return m_edits.describe(idFile, description, collection);
 }
 
+bool VideoLibrary::describeCollection(const QString &collection, const Description &description)
+{
+    return m_edits.describeCollection(collection, description);
+}
+
 bool VideoLibrary::describeShow(int idTvshow, const Description &description,
                                 const QMap<int, Description> &seasons)
 {

@@ -39,6 +39,7 @@ public:
     bool describeShow(int idTvshow, const Description &description,
                       const QMap<int, Description> &seasons) override;
     bool describeEpisode(int idFile, const Description &description) override;
+    bool describeCollection(const QString &collection, const Description &description) override;
     // A limit of 0 or less is none.
     [[nodiscard]] QVector<Wanted> wantingMetadata(bool all, int limit) const override;
     void metadataTried(int id, bool isShow) override;

@@ -112,7 +112,8 @@ int VideoWriter::collectionId(const QString &title, const QString &overview)
     id = static_cast<int>(Counters::take(m_connection, QStringLiteral("collections")));
     Statement insert = m_connection.prepare(QStringLiteral(
         "INSERT INTO collections (id, movies, year, added, rating_value, sort_title, name_key, title, "
-        "search, poster, backdrop, overview) VALUES (?, 0, 0, 0, 0, ?, ?, ?, ?, '', '', ?)"));
+        "search, poster, backdrop, overview, own_poster, own_backdrop) "
+        "VALUES (?, 0, 0, 0, 0, ?, ?, ?, ?, '', '', ?, '', '')"));
     const QString folded = TextFold::folded(title);
     return id > 0 && insert.run(id, folded, key, title, folded, overview) ? id : 0;
 }

@@ -207,6 +207,28 @@ TEST_F(LibraryVideoTest, CollectionsHaveTheirFilmsAndTheFirstPicture)
     EXPECT_EQ(videos->groups(everything()).total, 0);
 }
 
+TEST_F(LibraryVideoTest, ADescribedCollectionKeepsItsOwnTextAndPictures)
+{
+    ScannedVideo member = film("/films/a.mkv", "First", 2001);
+    member.collection = "Series";
+    member.description.poster = "first.jpg";
+    storeFilms({member});
+    Description told;
+    told.overview = "All of them";
+    told.poster = "series.jpg";
+    EXPECT_FALSE(videos->describeCollection("Nothing", told));
+    EXPECT_TRUE(videos->describeCollection("series", told));
+    ScannedVideo second = film("/films/b.mkv", "Second", 2002);
+    second.collection = "Series";
+    second.description.backdrop = "second.jpg";
+    storeFilms({member, second});
+    const GroupRecord group = videos->groups(everything()).rows.value(0);
+    EXPECT_EQ(group.overview, QString("All of them"));
+    EXPECT_EQ(group.poster, QString("series.jpg"));
+    EXPECT_EQ(group.backdrop, QString("second.jpg"));
+    EXPECT_EQ(group.fileCount, 2);
+}
+
 TEST_F(LibraryVideoTest, ShowsSeasonsAndEpisodes)
 {
     ScannedFolder all = folder(videoRoot, "/films/Show");

@@ -4,6 +4,15 @@
 
 #include <QJsonDocument>
 
+void StarterScript::open()
+{
+    {
+        std::lock_guard lock(mutex);
+        isOpen = true;
+    }
+    opened.notify_all();
+}
+
 QStringList StarterScript::recorded()
 {
     std::lock_guard lock(mutex);
@@ -24,7 +33,8 @@ void FakeStarter::note(const QString &call)
 
 bool FakeStarter::isHeld() const
 {
-    std::lock_guard lock(m_script.mutex);
+    std::unique_lock lock(m_script.mutex);
+    m_script.opened.wait(lock, [this] { return m_script.isOpen; });
     return m_script.isHeld;
 }
 
@@ -121,6 +131,7 @@ void LibraryFixture::makeManager()
     parts.port = 32080;
     m_manager = std::make_unique<MediaServerManager>(std::move(parts));
     m_log.follow(*m_manager);
+    m_starter.open();
 }
 
 void LibraryFixture::startManager()

@@ -21,12 +21,15 @@
 // What a fake starter is to do and what it was asked for. Outlives the starter.
 struct StarterScript {
     std::mutex mutex;
+    std::condition_variable opened;
+    bool isOpen{false}; // until then the start of the manager waits
     bool startsProcess{true};
     bool startsPlain{false};
     bool isHeld{false};
     QStringList calls; // "start <program> <folder> <ms>", "plain <program>", "release"
     std::function<void(const QString &call)> onCall;
 
+    void open();
     [[nodiscard]] QStringList recorded();
 };
 

@@ -59,7 +59,6 @@ TEST_F(MusicChangesCase, EachChangeFollowsAYesAndOnlyAYes)
         std::function<bool(MusicChanges &)> change;
         QStringList told;
         std::function<QString(const MusicCache &)> seen;
-        QString before;
         QString after;
     };
     const std::vector<Row> rows{
@@ -71,21 +70,18 @@ TEST_F(MusicChangesCase, EachChangeFollowsAYesAndOnlyAYes)
              const MusicPlaylist p = m.playlist("4");
              return p.poster + p.title + p.overview;
          },
-         "pMineo",
          "p2t2o2"},
         {"VMusicLibrary.FixAlbum",
          "{'fix':true}",
          [](MusicChanges &c) { return c.fixAlbum("6", "p2"); },
          {},
          [](const MusicCache &m) { return m.album("6").poster; },
-         "",
          "p2"},
         {"VMusicLibrary.FixArtist",
          "{'fix':true}",
          [](MusicChanges &c) { return c.fixArtist("Ann", "p2"); },
          {},
          [](const MusicCache &m) { return m.artist("Ann").poster; },
-         "ann.jpg",
          "p2"},
         {"VMusicLibrary.EditeMusic",
          "{'edite':true}",
@@ -97,59 +93,51 @@ TEST_F(MusicChangesCase, EachChangeFollowsAYesAndOnlyAYes)
              const MusicSong s = m.song("1");
              return s.title + s.poster + s.artist + s.genre;
          },
-         "One",
          "TPAG"},
         {"VMusicLibrary.AddMusicToLike",
          "{'add':true}",
          [](MusicChanges &c) { return c.like("2"); },
          {"sig_musicSongLikeChanged 2"},
          [](const MusicCache &m) { return m.likedSongs().join(",") + (m.song("2").like ? "!" : ""); },
-         "1",
          "1,2!"},
         {"VMusicLibrary.DelMusicToLike",
          "{'delete':true}",
          [](MusicChanges &c) { return c.unlike("1"); },
          {"sig_musicSongLikeChanged 1"},
          [](const MusicCache &m) { return m.likedSongs().join(",") + (m.song("1").like ? "!" : ""); },
-         "1,2!",
          "2"},
         {"VMusicLibrary.DelPlist",
          "{'delete':true}",
          [](MusicChanges &c) { return c.deletePlaylist("4", false); },
          {"sig_musicPlaylistRemoved 4"},
          [](const MusicCache &m) { return m.playlists().join(","); },
-         "4",
          ""},
         {"VMusicLibrary.DelAllMusic",
          "{'delete':true}",
          [](MusicChanges &c) { return c.deleteArtist("Ann", false); },
          {"sig_musicArtistRemoved Ann"},
          [](const MusicCache &m) { return m.artists().join(","); },
-         "Ann",
          ""},
         {"VMusicLibrary.DelAllMusic",
          "{'delete':true}",
          [](MusicChanges &c) { return c.deleteGenre("Rock", false); },
          {"sig_musicGenreRemoved Rock"},
          [](const MusicCache &m) { return m.genres().join(","); },
-         "Rock",
          ""},
         {"VMusicLibrary.DelAllMusic",
          "{'delete':true}",
          [](MusicChanges &c) { return c.deleteAlbum("6", false); },
          {"sig_musicAlbumRemoved 6"},
          [](const MusicCache &m) { return m.albums().join(","); },
-         "6",
          ""},
     };
     MusicChanges &changes = m_manager->musicChanges();
     for (const Row &row : rows) {
         m_log.clear();
+        const QString before = row.seen(m_manager->music());
         m_server.answer(row.method, json("{'fix':false,'edite':false,'add':false,'delete':false}"));
         EXPECT_FALSE(row.change(changes)) << row.method;
-        if (row.before != "1,2!") {
-            EXPECT_TRUE(row.seen(m_manager->music()).startsWith(row.before)) << row.method;
-        }
+        EXPECT_EQ(row.seen(m_manager->music()), before) << row.method;
         EXPECT_TRUE(m_log.lines().isEmpty()) << row.method;
         m_server.answer(row.method, json(row.yes));
         EXPECT_TRUE(row.change(changes)) << row.method;

@@ -4,6 +4,7 @@
 #include "ConnectionSettings.h"
 #include "Statement.h"
 
+#include <QHash> // the hash of a QString for the standard containers
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>

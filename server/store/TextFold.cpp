@@ -13,7 +13,8 @@ QString TextFold::folded(const QString &text)
         if (character.unicode() < kFirstMark || character.unicode() > kLastMark)
             plain += character;
     }
-    return plain.toCaseFolded();
+    // Folding alone leaves the letters that only capitals write as two.
+    return plain.toUpper().toCaseFolded();
 }
 
 QString TextFold::nameKey(const QString &name)

@@ -36,8 +36,9 @@ protected:
         const Page<MovieRecord> page = videos->movies(Role::Movies, request);
         m_microseconds = static_cast<int>(timer.nsecsElapsed() / 1000);
         EXPECT_EQ(page.rows.size(), 1);
-        if (!page.rows.isEmpty())
+        if (!page.rows.isEmpty()) {
             EXPECT_EQ(page.rows[0].title, QString("Film %1").arg(record, 6, 10, QChar('0')));
+        }
         const StatementCounters after = database->reader().counters();
         return {after.statements - before.statements, after.rows - before.rows};
     }

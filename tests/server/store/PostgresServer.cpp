@@ -56,10 +56,12 @@ void PostgresServer::prepare(QProcess *process, const QString &program, const QS
         process->start(program, arguments);
         return;
     }
-    // The server refuses to run as root. setpriv becomes the program, so its id is the server's own.
+    // The server refuses to run as root. setpriv becomes the program, so its id is the server's own, and
+    // the server ends with the tests even when these are killed.
     process->start(QStringLiteral("setpriv"),
                    QStringList{QStringLiteral("--reuid=") + user(), QStringLiteral("--regid=") + user(),
-                               QStringLiteral("--clear-groups"), QStringLiteral("--"), program}
+                               QStringLiteral("--clear-groups"), QStringLiteral("--pdeathsig"),
+                               QStringLiteral("INT"), QStringLiteral("--"), program}
                        + arguments);
 }
 

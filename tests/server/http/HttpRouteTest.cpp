@@ -70,13 +70,8 @@ TEST(PortChoiceTest, TheEnvironmentNamesAPortOrTheAgreedOneStays)
         const char *text;
         int port;
     };
-    for (const Row &row : {Row{"", 32080},
-                           {"0", 0},
-                           {"1", 1},
-                           {"65535", 65535},
-                           {"65536", 32080},
-                           {"-1", 32080},
-                           {"http", 32080},
-                           {"80 80", 32080}})
+    const Row rows[] = {{"", 32080},      {"0", 0},      {"1", 1},        {"65535", 65535},
+                        {"65536", 32080}, {"-1", 32080}, {"http", 32080}, {"80 80", 32080}};
+    for (const Row &row : rows)
         EXPECT_EQ(PortChoice::read(row.text, 32080), row.port) << row.text;
 }

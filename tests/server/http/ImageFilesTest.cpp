@@ -131,15 +131,11 @@ TEST_F(ImageFilesTest, TheContentTellsTheType)
         QByteArray head;
         const char *type;
     };
-    for (const Row &row : {Row{jpeg, "image/jpeg"},
-                           {png, "image/png"},
-                           {"GIF89a...", "image/gif"},
-                           {"GIF87a", "image/gif"},
-                           {"BM....", "image/bmp"},
-                           {"RIFF....WEBPVP8 ", "image/webp"},
-                           {"RIFF....WAVE", ""},
-                           {"<svg", ""},
-                           {"\xff\xd8", ""},
-                           {"", ""}})
+    const Row rows[] = {{jpeg, "image/jpeg"},       {png, "image/png"},
+                        {"GIF89a...", "image/gif"}, {"GIF87a", "image/gif"},
+                        {"BM....", "image/bmp"},    {"RIFF....WEBPVP8 ", "image/webp"},
+                        {"RIFF....WAVE", ""},       {"<svg", ""},
+                        {"\xff\xd8", ""},           {"", ""}};
+    for (const Row &row : rows)
         EXPECT_EQ(ImageFiles::typeOf(row.head), QByteArray(row.type)) << row.head.constData();
 }

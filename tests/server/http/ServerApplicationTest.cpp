@@ -56,10 +56,10 @@ protected:
     }
     [[nodiscard]] ServerApplication::Settings settings(const QString &folder) const
     {
-        ServerApplication::Settings settings;
-        settings.dataFolder = folder;
-        settings.http.port = 0;
-        return settings;
+        ServerApplication::Settings chosen;
+        chosen.dataFolder = folder;
+        chosen.http.port = 0;
+        return chosen;
     }
 
     QTemporaryDir m_folder;

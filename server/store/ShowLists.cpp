@@ -111,7 +111,7 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, int first, int last) 
         fill(&season.overview, of.overview);
         fill(&season.poster, of.poster);
         if (season.year == 0) {
-            Statement first =
+            Statement earliest =
                 m_database.reader().prepare(QStringLiteral("SELECT MIN(year) FROM items ") + episodesOfShow()
                                             + QStringLiteral(" AND season = ? AND year > 0"));
             if (earliest.run(idTvshow, season.iSeason) && earliest.next())

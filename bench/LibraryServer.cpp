@@ -6,6 +6,7 @@
 #include <QTcpSocket>
 #include <QThread>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace {

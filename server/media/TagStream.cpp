@@ -12,6 +12,11 @@ constexpr qint64 LongestRead = 24 * 1024 * 1024;
 constexpr int MostChapterFrames = 2000;
 constexpr qint64 SmallestChapterFrame = 26;
 constexpr std::string_view ChapterFrames[] = {"CHAP", "CTOC"};
+// So do atoms. Their heads are read one by one; a long recording in fragments has two of these for each.
+constexpr int MostContainers = 4000;
+constexpr unsigned int AtomHead = 8;
+constexpr std::string_view Containers[] = {"moov", "udta", "mdia", "meta", "ilst", "stbl",
+                                           "minf", "moof", "traf", "trak", "stsd"};
 
 } // namespace
 
@@ -82,6 +87,13 @@ const TagStream::Block &TagStream::block(qint64 number)
 
 bool TagStream::isNestedTooDeep(const TagLib::ByteVector &bytes)
 {
+    if (bytes.size() == AtomHead) {
+        const std::string_view name(bytes.data() + AtomHead / 2, AtomHead / 2);
+        const bool isContainer =
+            std::find(std::begin(Containers), std::end(Containers), name) != std::end(Containers);
+        m_containers += isContainer;
+        return isContainer && m_containers > MostContainers;
+    }
     if (qint64(bytes.size()) < MostChapterFrames * SmallestChapterFrame)
         return false;
     const std::string_view text(bytes.data(), bytes.size());

@@ -39,12 +39,13 @@ private:
     };
 
     const Block &block(qint64 number);
-    [[nodiscard]] static bool isNestedTooDeep(const TagLib::ByteVector &bytes);
+    [[nodiscard]] bool isNestedTooDeep(const TagLib::ByteVector &bytes);
 
     const MediaDeadline &m_deadline;
     QByteArray m_name;
     RegularFile m_file;
     qint64 m_position{0};
     qint64 m_uses{0};
+    int m_containers{0}; // atoms that hold atoms, as their heads were read
     std::array<Block, 4> m_blocks;
 };

@@ -39,6 +39,10 @@ private:
 };
 
 class ScanBench {
+    QTemporaryDir m_images;
+    QTemporaryDir m_tree;
+    QObject m_context; // results arrive on the thread of the test
+
 public:
     explicit ScanBench(ProbePool::Limits limits = {});
     ~ScanBench();
@@ -59,11 +63,5 @@ public:
     RootScan::Result lastResult{RootScan::Result::Complete};
     int finished{0};
 
-private:
-    QTemporaryDir m_images;
-    QTemporaryDir m_tree;
-    QObject m_context; // results arrive on the thread of the test
-
-public:
-    std::unique_ptr<Scanner> scanner;
+    std::unique_ptr<Scanner> scanner; // last: it uses all of the above
 };

@@ -188,6 +188,7 @@ void NormalMainWindow::openSettings(SettingsPageId page)
     }
     if (m_settingPage->isVisible())
         return;
+    m_settingsHost->askSystemProxy();
     m_settingPage->setStartPage(page);
     m_settingPage->exec();
 }

@@ -1,6 +1,10 @@
 #include "PcSettingsHost.h"
 
+#include "core/SettingsManager.h"
 #include "core/ThreadWorker.h"
+#include "library/MediaServerManager.h"
+#include "online/OutgoingProxy.h"
+#include "online/WebServiceManager.h"
 #include "player/EnginePreferences.h"
 #include "player/QPlayer.h"
 #include "shell/FileAssociation.h"
@@ -104,6 +108,25 @@ void PcSettingsHost::applyRegion()
 void PcSettingsHost::applyProxy()
 {
     apply([](EnginePreferences &preferences) { preferences.applyProxy(); });
+}
+
+void PcSettingsHost::applyServerProxy()
+{
+    WebServiceManager::instance()->setProxy({m_settings.proxyEnable(), m_settings.proxyType(),
+                                             m_settings.proxyHost(), m_settings.proxyPort(),
+                                             m_settings.proxyUserName(), m_settings.proxyPasswd()});
+    // The server may take two seconds to answer.
+    m_desktop->addTask([library = MediaServerManager::instance()] { library->applyProxy(); });
+}
+
+void PcSettingsHost::askSystemProxy()
+{
+    const auto found = std::make_shared<ProxyInfo>();
+    m_desktop->addTask([found] { *found = ::systemProxy(); },
+                       [this, found] {
+                           const bool isSet = !found->host.isEmpty();
+                           m_systemProxy = {found->host, isSet ? QString::number(found->port) : QString()};
+                       });
 }
 
 // ---- the desktop

@@ -29,6 +29,10 @@ public:
     void applySubtitle() override;
     void applyRegion() override;
     void applyProxy() override;
+    void applyServerProxy() override;
+    // As it was when the dialog last asked, from then on being asked for anew: the system may take its time.
+    [[nodiscard]] SettingsProxy systemProxy() const override { return m_systemProxy; }
+    void askSystemProxy();
 
     void readAssociations(std::function<void(const QStringList &)> answer) override;
     void changeAssociations(const QStringList &add, const QStringList &remove,
@@ -50,6 +54,7 @@ private:
     std::function<void()> m_devicesHandler;
     std::function<std::unique_ptr<ILibraryPaths>()> m_makeLibrary;
     std::unique_ptr<ILibraryPaths> m_library;
+    SettingsProxy m_systemProxy;
     bool m_isAskingDevices{false};
     std::unique_ptr<ThreadWorker> m_desktop;
     std::unique_ptr<ThreadWorker> m_engine;

@@ -14,27 +14,20 @@ constexpr int longestText = 64 * 1024;
 constexpr int longestEntity = 10;
 constexpr int longestDeclaration = 256;
 
-// Entities that pages of the web know and XML doesn't.
-class PageEntities final : public QXmlStreamEntityResolver {
-public:
-    QString resolveUndeclaredEntity(const QString &name) override
-    {
-        struct Row {
-            const char *name;
-            const char16_t *text;
-        };
-        static constexpr Row rows[] = {
-            {"nbsp", u" "},  {"eacute", u"é"}, {"egrave", u"è"}, {"agrave", u"à"}, {"ccedil", u"ç"},
-            {"auml", u"ä"},  {"ouml", u"ö"},   {"uuml", u"ü"},   {"szlig", u"ß"},  {"ndash", u"–"},
-            {"mdash", u"—"}, {"hellip", u"…"}, {"rsquo", u"’"},  {"lsquo", u"‘"},  {"ldquo", u"“"},
-            {"rdquo", u"”"}, {"copy", u"©"},   {"ntilde", u"ñ"},
-        };
-        for (const Row &row : rows)
-            if (name == QLatin1String(row.name))
-                return QString::fromUtf16(row.text);
-        return QLatin1Char('&') + name + QLatin1Char(';');
-    }
+// Entities that pages of the web know and XML doesn't. They are replaced before the file is read as XML, so
+// that none is ever looked up in what the file itself defines.
+struct EntityRow {
+    const char *name;
+    const char16_t *text;
 };
+
+constexpr EntityRow pageEntities[] = {
+    {"nbsp", u" "},  {"eacute", u"é"}, {"egrave", u"è"}, {"agrave", u"à"}, {"ccedil", u"ç"}, {"auml", u"ä"},
+    {"ouml", u"ö"},  {"uuml", u"ü"},   {"szlig", u"ß"},  {"ndash", u"–"},  {"mdash", u"—"},  {"hellip", u"…"},
+    {"rsquo", u"’"}, {"lsquo", u"‘"},  {"ldquo", u"“"},  {"rdquo", u"”"},  {"copy", u"©"},   {"ntilde", u"ñ"},
+};
+
+constexpr const char *xmlEntities[] = {"amp", "lt", "gt", "quot", "apos"};
 
 QByteArray declaredEncoding(const QByteArray &data)
 {
@@ -48,16 +41,35 @@ QByteArray declaredEncoding(const QByteArray &data)
     return value.trimmed();
 }
 
-bool isEntityAt(const QString &text, int position)
+// The name between '&' and ';' at the position, or empty.
+QString entityAt(const QString &text, int position)
 {
     for (int i = position + 1; i < text.size() && i <= position + longestEntity; ++i) {
         const QChar character = text.at(i);
         if (character == QLatin1Char(';'))
-            return i > position + 1;
+            return text.mid(position + 1, i - position - 1);
         if (!character.isLetterOrNumber() && character != QLatin1Char('#'))
-            return false;
+            return {};
     }
-    return false;
+    return {};
+}
+
+// What stands for the '&' at the position; position moves behind what it replaces.
+QString mendedEntity(const QString &text, int &position)
+{
+    const QString name = entityAt(text, position);
+    if (name.startsWith(QLatin1Char('#')))
+        return QStringLiteral("&");
+    for (const char *known : xmlEntities)
+        if (name == QLatin1String(known))
+            return QStringLiteral("&");
+    for (const EntityRow &row : pageEntities) {
+        if (name != QLatin1String(row.name))
+            continue;
+        position += name.size() + 1;
+        return QString::fromUtf16(row.text);
+    }
+    return QStringLiteral("&amp;");
 }
 
 // Where a declaration ends that starts at the position: "<?xml ... ?>", "<!DOCTYPE ... [ ... ]>".
@@ -91,8 +103,8 @@ QString mended(const QString &text)
                 continue;
             }
         }
-        if (character == QLatin1Char('&') && !isEntityAt(text, i))
-            result += QLatin1String("&amp;");
+        if (character == QLatin1Char('&'))
+            result += mendedEntity(text, i);
         else if (character.unicode() < 0x20 && !character.isSpace())
             result += QLatin1Char(' ');
         else
@@ -168,9 +180,7 @@ NfoTree NfoTree::read(const QByteArray &data)
         qInfo() << "[sidecars] an NFO of" << data.size() << "bytes is left out";
         return {};
     }
-    PageEntities entities;
     QXmlStreamReader reader(mended(TextDecoder::decode(data, declaredEncoding(data))));
-    reader.setEntityResolver(&entities);
     reader.setNamespaceProcessing(false);
     Builder builder;
     int elements = 0;

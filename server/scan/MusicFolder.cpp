@@ -12,6 +12,11 @@
 
 namespace {
 
+QString variousArtists()
+{
+    return QStringLiteral("Various Artists");
+}
+
 QString suffixOf(const QString &name)
 {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1).toLower();
@@ -44,6 +49,20 @@ void takeTags(ScannedSong &song, const SoundTags &tags)
     song.discNumber = tags.disc;
     song.year = tags.year;
     song.runtimeMs = tags.durationMs;
+}
+
+// An album of several artists that names none for the whole would fall apart into one for each of them.
+void joinCompilations(QVector<ScannedSong> &songs)
+{
+    QHash<QString, QSet<QString>> artists;
+    for (const ScannedSong &song : songs) {
+        if (!song.album.isEmpty() && (song.albumArtist.isEmpty() || song.albumArtist == variousArtists()))
+            artists[song.album].insert(song.artist);
+    }
+    for (ScannedSong &song : songs) {
+        if (song.albumArtist.isEmpty() && artists.value(song.album).size() > 1)
+            song.albumArtist = variousArtists();
+    }
 }
 
 } // namespace
@@ -97,4 +116,5 @@ void MusicFolder::finish(FolderWork &work) const
                 song.title = QFileInfo(song.path).completeBaseName();
         }
     }
+    joinCompilations(work.result.songs);
 }

@@ -9,6 +9,8 @@
 namespace {
 
 constexpr int kEndMs = 30000;
+// What a server takes to close its database; one that scans may have to be ended.
+constexpr int kPoliteMs = 1000;
 
 } // namespace
 
@@ -56,12 +58,16 @@ void ServerStarter::release()
     std::lock_guard lock(m_mutex);
     if (!m_process)
         return;
-    m_process->kill();
     if (m_process->thread() != QThread::currentThread()) {
+        m_process->kill();
         // Its notifiers may be taken down in its own thread only.
         m_process.release()->deleteLater();
         return;
     }
-    m_process->waitForFinished(kEndMs);
+    m_process->terminate();
+    if (!m_process->waitForFinished(kPoliteMs)) {
+        m_process->kill();
+        m_process->waitForFinished(kEndMs);
+    }
     m_process.reset();
 }

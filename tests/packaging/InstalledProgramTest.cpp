@@ -17,7 +17,7 @@ TEST(InstalledProgramTest, TheProgramLiesBesideAllThatItLooksFor)
     EXPECT_EQ(program.fileName(), "Quorin Player 6");
     EXPECT_TRUE(program.isExecutable());
     const QDir folder = program.dir();
-    for (const char *name : {"libOrbix.so", "quorin6.rcc"}) {
+    for (const char *name : {"libOrbix.so", "quorin6.rcc", "Quorin Player Server"}) {
         EXPECT_TRUE(folder.exists(name)) << name;
         EXPECT_GT(QFileInfo(folder.filePath(name)).size(), 0) << name;
     }

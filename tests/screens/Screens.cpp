@@ -344,8 +344,8 @@ void Screens::drawSettings()
 {
     TestSettings settings;
     FakeSettingsHost host;
-    host.known.picturesFolder = QStringLiteral("/home/anna/Pictures/Quorin Player 6");
-    host.known.logFolder = QStringLiteral("/home/anna/Documents/Quorin Player 6/Log");
+    host.known.picturesFolder = QStringLiteral("/users/anna/Pictures/Quorin Player 6");
+    host.known.logFolder = QStringLiteral("/users/anna/Documents/Quorin Player 6/Log");
     NormalSettingPage dialog(*settings, host);
     dialog.prepare();
     dialog.show();

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <cstdio>
+
 #include <csignal>
 #include <pwd.h>
 #include <sys/types.h>
@@ -82,7 +84,7 @@ QString PostgresServer::start()
     if (folder.isEmpty())
         return QStringLiteral("no PostgreSQL programs on this machine");
     // Not below the tests' home, which the server's user cannot enter; and a socket's path must be short.
-    m_folder = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/quorin-pg-XXXXXX"));
+    m_folder = std::make_unique<QTemporaryDir>(QStringLiteral(P_tmpdir "/quorin-pg-XXXXXX"));
     if (::geteuid() == 0) {
         const passwd *account = ::getpwnam(qPrintable(user()));
         if (!account)

@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>设置...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>要添加到媒体库，请指定该目录的媒体库类型。</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>电影和电视剧</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>成人</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

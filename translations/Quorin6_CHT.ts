@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>設定...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>要新增到媒體庫，請指定該目錄的媒體庫類型。</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>電影和電視劇</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>成人</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>Ajustes...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>Para añadirlo a la biblioteca, indique el tipo de biblioteca del directorio.</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>Películas y series</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>Adultos</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

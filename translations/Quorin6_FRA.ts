@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>Paramètres...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>Pour l&apos;ajouter à la bibliothèque, indiquez le type de bibliothèque du dossier.</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>Films et séries</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>Adulte</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

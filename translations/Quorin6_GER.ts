@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>Einstellungen...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>Um das Verzeichnis zur Bibliothek hinzuzufügen, geben Sie bitte dessen Bibliothekstyp an.</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>Filme und Serien</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>Erwachsene</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

@@ -440,6 +440,18 @@
         <source>Settings...</source>
         <translation>設定...</translation>
     </message>
+    <message>
+        <source>To add to the library, please specify the library type for the directory.</source>
+        <translation>ライブラリに追加するには、フォルダーのライブラリの種類を指定してください。</translation>
+    </message>
+    <message>
+        <source>Movies &amp; TV Shows</source>
+        <translation>映画とテレビ番組</translation>
+    </message>
+    <message>
+        <source>Adult</source>
+        <translation>アダルト</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>

@@ -2,10 +2,13 @@
 #include "PlaylistPanel.h"
 
 #include "queue/NormalPlaylistListDelegate.h"
+#include "queue/QueueHead.h"
+#include "queue/QueueListView.h"
 
 #include "core/SettingsKeys.h"
 #include "ui/OverlayHost.h"
 
+#include <QListView>
 #include <QSignalSpy>
 
 // ---- open and closed

@@ -189,12 +189,6 @@ bool MusicLibrary::setArtistPoster(const QString &artist, const QString &poster)
 QStringList MusicLibrary::filesOf(int idFile) const
 {
     const SongRecord known = song(idFile);
-    if (!known.cuePath.isEmpty()) {
-        Statement others = m_database.reader().prepare(
-            QStringLiteral("SELECT 1 FROM songs WHERE path = ? AND id <> ? AND missing_since = 0"));
-        if (!others.run(known.path, idFile) || others.next())
-            return {};
-    }
     QStringList files;
     for (const QString &file : {known.path, known.cuePath}) {
         if (!file.isEmpty())

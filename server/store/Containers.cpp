@@ -7,6 +7,9 @@
 
 #include <algorithm>
 
+// A plus before a column keeps SQLite from the index on it: without statistics it takes that of a whole list
+// for as good as that of the one container, and each refresh would walk through the library.
+
 namespace {
 
 void take(QString *target, const QString &value)
@@ -63,7 +66,7 @@ bool Containers::refreshShow(Connection &connection, int id)
         // The newest episode brings a show to the front of what was added last.
         Statement read = connection.prepare(
             QStringLiteral("SELECT COUNT(*), MAX(added) FROM items "
-                           "WHERE show_id = ? AND kind = ? AND missing_since = 0 AND lead_id = 0"));
+                           "WHERE show_id = ? AND +kind = ? AND +missing_since = 0 AND +lead_id = 0"));
         if (!read.run(id, static_cast<int>(Role::TvShows)) || !read.next())
             return false;
         episodes = read.integer(0);
@@ -95,7 +98,7 @@ bool Containers::refreshCollection(Connection &connection, int id)
     {
         Statement read = connection.prepare(
             QStringLiteral("SELECT year, added, rating_value, poster, backdrop FROM items "
-                           "WHERE group_id = ? AND kind = ? AND missing_since = 0 AND lead_id = 0 "
+                           "WHERE group_id = ? AND +kind = ? AND +missing_since = 0 AND +lead_id = 0 "
                            "ORDER BY year, sort_title, id"));
         if (!read.run(id, static_cast<int>(Role::Movies)))
             return false;
@@ -124,7 +127,7 @@ bool Containers::refreshAlbum(Connection &connection, int id)
     {
         Statement read =
             connection.prepare(QStringLiteral("SELECT year, added, genre, poster FROM songs "
-                                              "WHERE album_id = ? AND missing_since = 0 "
+                                              "WHERE album_id = ? AND +missing_since = 0 "
                                               "ORDER BY disc, track_number, track, sort_title, id"));
         if (!read.run(id))
             return false;

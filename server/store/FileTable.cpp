@@ -114,7 +114,7 @@ QVector<FileRow> FileTable::below(Connection &connection, int root, const QStrin
     Statement statement = connection.prepare(
         m_select
         + QStringLiteral(
-            "WHERE (folder = ? OR (folder >= ? AND folder < ?)) AND root = ? AND missing_since = 0"));
+            "WHERE (folder = ? OR (folder >= ? AND folder < ?)) AND root = ? AND +missing_since = 0"));
     const QString name = bare(folder);
     return statement.run(folder, QString(name + QLatin1Char('/')), endOf(name), root) ? readAll(&statement)
                                                                                       : QVector<FileRow>();

@@ -57,11 +57,16 @@ ListSource songSource(const QString &name)
     return source;
 }
 
+// Narrowed by what another index knows: the plus keeps the database from walking through all songs by the
+// order of the whole list instead.
+const QLatin1String kPresent("+missing_since = 0");
+
 // The songs of another table's rows.
 ListSource joined(const QString &name, const QString &table)
 {
     ListSource source = songSource(name);
     source.tables = QStringLiteral("songs JOIN %1 AS part ON part.song_id = songs.id").arg(table);
+    source.condition = kPresent;
     source.id = QStringLiteral("songs.id");
     source.ties = QStringLiteral("sort_title, songs.id");
     return source;
@@ -79,7 +84,7 @@ ListSource named(const QString &name, const QString &table, const QString &value
 ListSource albumSource(int idAlbum)
 {
     ListSource source = songSource(QStringLiteral("album"));
-    source.condition += QStringLiteral(" AND album_id = ?");
+    source.condition = kPresent + QStringLiteral(" AND album_id = ?");
     source.values << QString::number(idAlbum);
     source.ties = QStringLiteral("disc, track_number, track, sort_title, id");
     return source;

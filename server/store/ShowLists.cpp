@@ -49,9 +49,10 @@ const RowTable<EpisodeRecord> &episodeTable()
     return table;
 }
 
+// The pluses keep the database to the index on episodes: that on the lists would lead through all episodes.
 QString episodesOfShow()
 {
-    return QStringLiteral("WHERE show_id = ? AND kind = %1 AND missing_since = 0 AND lead_id = 0")
+    return QStringLiteral("WHERE show_id = ? AND +kind = %1 AND +missing_since = 0 AND +lead_id = 0")
         .arg(static_cast<int>(Role::TvShows));
 }
 
@@ -95,8 +96,8 @@ QVector<SeasonRecord> ShowLists::readSeasons(int idTvshow, int first, int last) 
         m_database.reader(),
         QStringLiteral("WHERE show_id = ? AND number >= ? AND number <= ? AND EXISTS (SELECT 1 FROM items "
                        "WHERE items.show_id = seasons.show_id "
-                       "AND items.season = seasons.number AND items.kind = %1 AND items.missing_since = 0 "
-                       "AND items.lead_id = 0) ORDER BY number")
+                       "AND items.season = seasons.number AND +items.kind = %1 "
+                       "AND +items.missing_since = 0 AND +items.lead_id = 0) ORDER BY number")
             .arg(static_cast<int>(Role::TvShows)),
         idTvshow, first, last);
     QVector<SeasonRecord> seasons;

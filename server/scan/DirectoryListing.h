@@ -17,6 +17,8 @@ struct DirectoryListing {
     QVector<FolderEntry> entries;
     // Entries whose names cannot be told faithfully, so that no file would be found under them.
     int strangeNames{0};
+    // Files whose whole path is longer than the system takes.
+    int longPaths{0};
 
     [[nodiscard]] static DirectoryListing read(const QString &path);
 };

@@ -49,11 +49,6 @@ DirectoryListing DirectoryListing::read(const QString &path)
 {
     DirectoryListing listing;
     const QByteArray name = path.toUtf8();
-    // Files in it would have no path that anything can open.
-    if (name.size() + NAME_MAX >= PATH_MAX) {
-        listing.outcome = Outcome::TooLong;
-        return listing;
-    }
     const int handle = ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
     if (handle < 0) {
         listing.outcome = failure(errno);
@@ -87,6 +82,11 @@ DirectoryListing DirectoryListing::read(const QString &path)
         const QString text = QString::fromUtf8(entry->d_name);
         if (text.contains(QChar::ReplacementCharacter) && text.toUtf8() != entry->d_name) {
             ++listing.strangeNames;
+            continue;
+        }
+        // It has no path that anything can open. A folder is told so when it is entered.
+        if (!isFolder && name.size() + 1 + int(std::strlen(entry->d_name)) >= PATH_MAX) {
+            ++listing.longPaths;
             continue;
         }
         const qint64 modifiedMs = info.st_mtim.tv_sec * MsPerSecond + info.st_mtim.tv_nsec / NsPerMs;

@@ -66,6 +66,8 @@ FolderWalk::Listed FolderWalk::list(WalkedFolder &folder)
     DirectoryListing listing = DirectoryListing::read(folder.path);
     if (listing.strangeNames > 0)
         note("has files with names that are no text:", folder.path);
+    if (listing.longPaths > 0)
+        note("has files with too long a path:", folder.path.right(200));
     switch (listing.outcome) {
     case DirectoryListing::Outcome::Gone:
         return Listed::Gone;

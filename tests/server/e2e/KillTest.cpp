@@ -10,9 +10,9 @@ namespace {
 
 constexpr int UsualRounds = 12;
 constexpr unsigned int UsualSeed = 20260;
-constexpr int LongestMs = 400;
-constexpr int SongsARound = 24;
-constexpr int FilmsARound = 6;
+constexpr int LongestMs = 120;
+constexpr int SongsARound = 200;
+constexpr int FilmsARound = 60;
 constexpr int WholeScanEvery = 4;
 
 int fromEnvironment(const char *name, int otherwise)
@@ -55,7 +55,7 @@ protected:
     void grow(int round) const
     {
         for (int i = 0; i < SongsARound; ++i)
-            m_tree.sound(QStringLiteral("music/round %1/%2/%3.mp3").arg(round).arg(i % 6).arg(i),
+            m_tree.sound(QStringLiteral("music/round %1/%2/%3.mp3").arg(round).arg(i % 20).arg(i),
                          {songTitle(round, i),
                           "Crowd",
                           QStringLiteral("Album %1").arg(round),
@@ -65,7 +65,7 @@ protected:
                           i + 1,
                           {}});
         for (int i = 0; i < FilmsARound; ++i)
-            m_tree.clip(QStringLiteral("films/Film %1 x %2 (1990).mkv").arg(round).arg(i));
+            m_tree.clip(QStringLiteral("films/round %1/Film %1 x %2 (1990).mkv").arg(round).arg(i));
         if (round > 0) {
             ASSERT_TRUE(m_tree.rename(QStringLiteral("music/move/%1/mover.mp3").arg(round - 1),
                                       QStringLiteral("music/move/%1/mover.mp3").arg(round)));
@@ -133,7 +133,7 @@ TEST_F(KillTest, NothingThatAUserMadeIsLostAndTheScanGoesOn)
             m_paths.sort();
             QTest::qWait(below(LongestMs / 4));
         }
-        underWay += m_manager->isScanFinished() ? 0 : 1;
+        underWay += m_manager->videoRequests().heartbeat().isScanFinished ? 0 : 1;
         killServer();
         startServer();
         expectUserDataKept(false);

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace {
 
 constexpr char AlphaNfo[] = R"(<movie><title>Alpha Told</title><year>2001</year><rating>7.5</rating>
@@ -40,6 +42,15 @@ FILE "live.flac" WAVE
 )";
 
 } // namespace
+
+LibraryTree::~LibraryTree()
+{
+    // QTemporaryDir leaves behind what has no name in its own encoding.
+    std::error_code error;
+    for (const auto &entry : std::filesystem::directory_iterator(m_folder.path().toStdString(), error))
+        std::filesystem::remove_all(entry.path(), error);
+    EXPECT_FALSE(error) << error.message();
+}
 
 void LibraryTree::clip(const QString &path) const
 {

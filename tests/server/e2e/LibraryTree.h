@@ -12,6 +12,11 @@
 
 class LibraryTree final {
 public:
+    LibraryTree() = default;
+    ~LibraryTree();
+    LibraryTree(const LibraryTree &) = delete;
+    LibraryTree &operator=(const LibraryTree &) = delete;
+
     [[nodiscard]] QString full(const QString &path) const { return m_folder.filePath(path); }
     [[nodiscard]] QString films() const { return full(QStringLiteral("films")); }
     [[nodiscard]] QString shows() const { return full(QStringLiteral("shows")); }

@@ -7,7 +7,7 @@ DataFolder::DataFolder(const QString &path)
     : m_path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
 {
     m_usable = !path.isEmpty() && QDir().mkpath(m_path) && QDir().mkpath(imageFolder())
-        && QDir().mkpath(providerCacheFolder()) && QFileInfo(m_path).isWritable();
+               && QDir().mkpath(providerCacheFolder()) && QFileInfo(m_path).isWritable();
 }
 
 QString DataFolder::databasePath() const

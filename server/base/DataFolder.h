@@ -10,11 +10,11 @@ public:
 
     [[nodiscard]] bool isUsable() const { return m_usable; }
     [[nodiscard]] QString path() const { return m_path; }
-    [[nodiscard]] QString databasePath() const;      // library.db
-    [[nodiscard]] QString backupPath() const;        // library.backup.db
-    [[nodiscard]] QString configurationPath() const; // server.ini
-    [[nodiscard]] QString logPath() const;           // server.log
-    [[nodiscard]] QString imageFolder() const;       // images/, the picture cache
+    [[nodiscard]] QString databasePath() const;        // library.db
+    [[nodiscard]] QString backupPath() const;          // library.backup.db
+    [[nodiscard]] QString configurationPath() const;   // server.ini
+    [[nodiscard]] QString logPath() const;             // server.log
+    [[nodiscard]] QString imageFolder() const;         // images/, the picture cache
     [[nodiscard]] QString providerCacheFolder() const; // provider/, answers of the metadata provider
 
 private:

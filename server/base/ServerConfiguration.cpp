@@ -30,14 +30,16 @@ ServerConfiguration ServerConfiguration::read(const QString &path)
         qWarning() << "[configuration] cannot be read as a whole:" << path;
 
     ServerConfiguration configuration;
-    const QString driver = settings.value(QStringLiteral("database/driver"), configuration.databaseDriver).toString();
+    const QString driver =
+        settings.value(QStringLiteral("database/driver"), configuration.databaseDriver).toString();
     const QStringList drivers{QStringLiteral("QSQLITE"), QStringLiteral("QPSQL")};
     if (drivers.contains(driver))
         configuration.databaseDriver = driver;
     else
         qWarning() << "[configuration] unknown database driver" << driver << "- the file beside it is used";
     configuration.databaseHost = settings.value(QStringLiteral("database/host")).toString();
-    configuration.databasePort = readPort(settings, QStringLiteral("database/port"), configuration.databasePort);
+    configuration.databasePort =
+        readPort(settings, QStringLiteral("database/port"), configuration.databasePort);
     configuration.databaseName = settings.value(QStringLiteral("database/name")).toString();
     configuration.databaseUser = settings.value(QStringLiteral("database/user")).toString();
     configuration.databasePassword = settings.value(QStringLiteral("database/password")).toString();

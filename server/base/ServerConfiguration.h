@@ -12,8 +12,8 @@ struct ServerConfiguration {
     QString databaseUser;
     QString databasePassword;
 
-    // [metadata]: endpoint=https://.../3, images=https://.../t/p/, key=. Without endpoint and key no request leaves
-    // the machine.
+    // [metadata]: endpoint=https://.../3, images=https://.../t/p/, key=. Without endpoint and key no request
+    // leaves the machine.
     QString metadataEndpoint;
     QString metadataImages;
     QString metadataKey;

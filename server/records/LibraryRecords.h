@@ -1,8 +1,8 @@
 // What the library answers with: one struct for each kind of object that crosses the wire.
 //
-// Posters and backdrops are the keys of pictures: the absolute path of a file below a library folder, or the name of
-// a file in the picture cache. Years are 0 where they are not known. Runtimes of films are minutes as text, of songs
-// milliseconds.
+// Posters and backdrops are the keys of pictures: the absolute path of a file below a library folder, or the
+// name of a file in the picture cache. Years are 0 where they are not known. Runtimes of films are minutes as
+// text, of songs milliseconds.
 #pragma once
 
 #include <QString>

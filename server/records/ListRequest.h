@@ -1,4 +1,5 @@
-// What a list is asked for: which library role, in which order, with which restrictions, and which part of it.
+// What a list is asked for: which library role, in which order, with which restrictions, and which part of
+// it.
 #pragma once
 
 #include <QString>
@@ -30,7 +31,8 @@ struct ListRequest {
 };
 
 // A part of a list with the length of the whole.
-template <typename Record> struct Page {
+template<typename Record>
+struct Page {
     int total{0};
     QVector<Record> rows;
 };

@@ -1,7 +1,7 @@
 // What a scan finds and hands to the database, a folder at a time.
 //
-// A folder is the unit of a scan: names decide only together (versions, parts, seasons), so a folder that changed is
-// read again as a whole, and one whose fingerprint is the known one costs nothing but its listing.
+// A folder is the unit of a scan: names decide only together (versions, parts, seasons), so a folder that
+// changed is read again as a whole, and one whose fingerprint is the known one costs nothing but its listing.
 #pragma once
 
 #include <QByteArray>
@@ -20,8 +20,8 @@ struct FileStamp {
     }
 };
 
-// What is told about a film, an episode, a show or a video, whatever told it: name, sidecar, file or provider.
-// Lists of persons and genres are joined with ", ". An empty text and a zero mean: not known.
+// What is told about a film, an episode, a show or a video, whatever told it: name, sidecar, file or
+// provider. Lists of persons and genres are joined with ", ". An empty text and a zero mean: not known.
 struct Description {
     QString title;
     QString sortTitle;
@@ -80,8 +80,8 @@ struct ScannedSong {
     QString genre;
     QString poster; // key of the cover
     QString suffix;
-    QString cuePath;   // of the sound file that a CUE track lies in, else empty
-    int track{-1};     // number of a CUE track, else -1
+    QString cuePath;    // of the sound file that a CUE track lies in, else empty
+    int track{-1};      // number of a CUE track, else -1
     int trackNumber{0}; // in the album, as tagged
     int discNumber{0};
     int year{0};

@@ -16,11 +16,21 @@ namespace {
 
 constexpr char kDevices[] = "IVDPlayTool::audioDevices";
 
+libvp::VDAudioDevice device(const char *name, int connection)
+{
+    libvp::VDAudioDevice made;
+    qstrncpy(made.name, name, sizeof(made.name));
+    made.connection = connection;
+    return made;
+}
+
 class PcSettingsHostTest : public testing::Test {
 protected:
     PcSettingsHostTest()
     {
         fakeEngine().reset();
+        fakeEngine().setAudioDevices(
+            {device("Speakers", libvp::VD_Connection_Analog), device("Receiver", libvp::VD_Connection_Hdmi)});
         m_player = std::make_unique<QPlayer>(fakeEngineLoader(), &m_settings);
         m_surface.resize(640, 360);
         m_player->setVideoParent(&m_surface, 0x1234);

@@ -6,8 +6,10 @@
 #include "queue/QueueListView.h"
 
 #include "core/SettingsKeys.h"
+#include "transport/TransportButton.h"
 #include "ui/OverlayHost.h"
 
+#include <QLabel>
 #include <QListView>
 #include <QSignalSpy>
 

@@ -88,10 +88,12 @@ TEST_F(SoundTagsTest, TellsTheTagsOfEachFormat)
         EXPECT_EQ(tags.artist, "Player");
         EXPECT_EQ(tags.album, "Samples");
         EXPECT_EQ(tags.genre, "Rock");
-        EXPECT_EQ(tags.year, 2004);
+        // The maker of the clips writes it into WMA under a name of its own.
+        EXPECT_EQ(tags.year, format == "wma" ? 0 : 2004);
         EXPECT_NEAR(tags.durationMs, 400, 120);
-        // The information chunk of WAV knows neither.
-        EXPECT_EQ(tags.albumArtist, format == "wav" ? "" : "Several");
+        // The information chunk of WAV knows neither, and in WavPack the maker of the clips names it
+        // otherwise.
+        EXPECT_EQ(tags.albumArtist, format == "wav" || format == "wv" ? "" : "Several");
         EXPECT_EQ(tags.disc, format == "wav" ? 0 : 2);
         EXPECT_EQ(tags.track, 3);
     }
@@ -139,12 +141,15 @@ TEST_F(SoundTagsTest, TakesTheCoverOfMp4)
 TEST_F(SoundTagsTest, TakesTheCoverOfAnApeTag)
 {
     SampleClips::copy("wv", path("a.wv"));
-    TagLib::WavPack::File file(name("a.wv").constData());
-    file.APETag(true)->setItem("COVER ART (FRONT)",
-                               TagLib::APE::Item("COVER ART (FRONT)",
-                                                 vector(QByteArray("front.png") + '\0' + SampleClips::png(5)),
-                                                 true));
-    ASSERT_TRUE(file.save());
+    {
+        // The end of the file is written when it is closed.
+        TagLib::WavPack::File file(name("a.wv").constData());
+        file.APETag(true)->setItem(
+            "COVER ART (FRONT)",
+            TagLib::APE::Item("COVER ART (FRONT)",
+                              vector(QByteArray("front.png") + '\0' + SampleClips::png(5)), true));
+        ASSERT_TRUE(file.save());
+    }
     EXPECT_EQ(read(path("a.wv")).cover, SampleClips::png(5));
 }
 

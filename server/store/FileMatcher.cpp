@@ -24,6 +24,19 @@ Look lookOf(const FileRow &file)
     return {{file.stamp.size, file.stamp.modifiedMs}, {file.suffix, file.track}};
 }
 
+// The rows of the places that one file was moved through, oldest first: each was made after the file was last
+// seen in the place before. Empty where two of them were there at once, which are files of their own.
+QVector<FileRow> succession(QVector<FileRow> lost)
+{
+    std::sort(lost.begin(), lost.end(),
+              [](const FileRow &first, const FileRow &second) { return first.added < second.added; });
+    for (int index = 1; index < lost.size(); ++index) {
+        if (lost.at(index).added <= lost.at(index - 1).seen)
+            return {};
+    }
+    return lost;
+}
+
 } // namespace
 
 FileMatcher::FileMatcher(Connection &connection, const FileTable &table, qint64 now)
@@ -85,14 +98,19 @@ void FileMatcher::matchMoves(const QVector<FileRow> &files, QVector<int> *ids)
         lost.erase(std::remove_if(lost.begin(), lost.end(),
                                   [&taken](const FileRow &row) { return taken.contains(row.id); }),
                    lost.end());
-        if (lost.size() != 1)
+        const QVector<FileRow> places = succession(lost);
+        if (places.isEmpty())
             continue;
-        const int id = lost.first().id;
-        (*ids)[index] = id;
-        taken.insert(id);
-        m_lost.erase(
-            std::remove_if(m_lost.begin(), m_lost.end(), [id](const FileRow &row) { return row.id == id; }),
-            m_lost.end());
+        (*ids)[index] = places.first().id;
+        for (const FileRow &place : places) {
+            const int id = place.id;
+            taken.insert(id);
+            if (id != places.first().id)
+                m_earlier << Move{places.first().id, id};
+            m_lost.erase(std::remove_if(m_lost.begin(), m_lost.end(),
+                                        [id](const FileRow &row) { return row.id == id; }),
+                         m_lost.end());
+        }
     }
 }
 
@@ -115,15 +133,27 @@ void FileMatcher::giveNewIds(QVector<int> *ids)
 QVector<FileMatcher::Move> FileMatcher::lateMoves(const QVector<FileRow> &lost) const
 {
     QVector<Move> moves;
+    QSet<int> done;
     for (const FileRow &row : lost) {
+        if (done.contains(row.id))
+            continue;
+        const QVector<FileRow> places = succession(m_table.alike(m_connection, row, true));
+        for (const FileRow &place : places)
+            done.insert(place.id);
+        if (places.isEmpty())
+            continue;
         // Only a row that was made after the file was last seen in its old place: another is a copy of its
         // own.
         QVector<FileRow> comers = m_table.alike(m_connection, row, false);
         comers.erase(std::remove_if(comers.begin(), comers.end(),
-                                    [&row](const FileRow &comer) { return comer.added <= row.seen; }),
+                                    [&](const FileRow &comer) { return comer.added <= places.last().seen; }),
                      comers.end());
-        if (comers.size() == 1 && m_table.alike(m_connection, row, true).size() == 1)
-            moves << Move{row.id, comers.first().id};
+        if (comers.size() != 1)
+            continue;
+        const int id = places.first().id;
+        for (int index = 1; index < places.size(); ++index)
+            moves << Move{id, places.at(index).id};
+        moves << Move{id, comers.first().id};
     }
     return moves;
 }

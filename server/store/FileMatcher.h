@@ -3,7 +3,8 @@
 //
 // A moved file is known by its size, its time and its suffix, and only where exactly one file was lost and
 // exactly one has come. It may have been found in its new place before it was missed in the old one: then
-// both have a row, and the older one is to take the newer one's place.
+// both have a row, and the older one is to take the newer one's place. After scans that did not come to their
+// end there may be several such rows of one file, one for each place; the oldest stands for all.
 #pragma once
 
 #include "FileTable.h"
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] QVector<int> match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
                                      Containers *containers);
     [[nodiscard]] bool isFailed() const { return m_failed; }
+    // Rows that are to be taken into older ones before the files are written.
+    [[nodiscard]] QVector<Move> earlierMoves() const { return m_earlier; }
     // Rows of the files that left which are to take the place of newer rows.
     [[nodiscard]] QVector<Move> lateMoves() const { return lateMoves(m_lost); }
     [[nodiscard]] QVector<Move> lateMoves(const QVector<FileRow> &lost) const;
@@ -44,5 +47,6 @@ private:
     const FileTable &m_table;
     qint64 m_now;
     QVector<FileRow> m_lost;
+    QVector<Move> m_earlier;
     bool m_failed{false};
 };

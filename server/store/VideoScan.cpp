@@ -45,7 +45,7 @@ bool VideoScan::store(const QVector<ScannedFolder> &folders)
         }
     }
     const QVector<int> ids = m_matcher.match(folders, files, m_writer.containers());
-    if (m_matcher.isFailed())
+    if (m_matcher.isFailed() || !replace(m_matcher.earlierMoves()))
         return false;
     for (int index = 0; index < found.size(); ++index) {
         found[index].id = ids.at(index);

@@ -6,6 +6,7 @@
 extern "C" {
 #include <libavformat/avformat.h>
 #include <libavutil/dict.h>
+#include <libavutil/log.h>
 }
 
 #include <algorithm>
@@ -86,6 +87,8 @@ bool FileInput::makeReader()
 
 bool FileInput::open(const QString &path)
 {
+    // What is wrong with a file is told by what comes back; a scan of many would fill the output.
+    [[maybe_unused]] static const bool isQuiet = (av_log_set_level(AV_LOG_QUIET), true);
     if (!makeReader())
         return false;
     const AVInputFormat *format = nullptr;

@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr std::size_t QueuePerWorker = 32;
+// The pool reads on while the database takes a batch in.
+constexpr std::size_t QueuePerWorker = 256;
 using Clock = MediaDeadline::Clock;
 
 struct Job {

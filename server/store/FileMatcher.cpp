@@ -55,8 +55,9 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
     }
     QVector<int> ids;
     ids.reserve(files.size());
+    const bool anyRemoved = FileTable::hasRemoved(m_connection);
     for (const FileRow &file : files) {
-        ids << (FileTable::isRemoved(m_connection, file)
+        ids << (anyRemoved && FileTable::isRemoved(m_connection, file)
                     ? kRefused
                     : m_table.at(m_connection, file.path, file.track).id);
     }
@@ -124,6 +125,7 @@ void FileMatcher::giveNewIds(QVector<int> *ids)
         m_failed = true;
         return;
     }
+    m_firstNew = next;
     for (int &id : *ids) {
         if (id == 0)
             id = next++;

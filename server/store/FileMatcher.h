@@ -12,6 +12,8 @@
 #include <QPair>
 #include <QVector>
 
+#include <limits>
+
 class Connection;
 class Containers;
 
@@ -31,6 +33,8 @@ public:
     [[nodiscard]] QVector<int> match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
                                      Containers *containers);
     [[nodiscard]] bool isFailed() const { return m_failed; }
+    // Whether the id was given by match(), so that no row has it yet.
+    [[nodiscard]] bool isNew(int id) const { return id >= m_firstNew; }
     // Rows that are to be taken into older ones before the files are written.
     [[nodiscard]] QVector<Move> earlierMoves() const { return m_earlier; }
     // Rows of the files that left which are to take the place of newer rows.
@@ -48,5 +52,6 @@ private:
     qint64 m_now;
     QVector<FileRow> m_lost;
     QVector<Move> m_earlier;
+    int m_firstNew{std::numeric_limits<int>::max()};
     bool m_failed{false};
 };

@@ -199,6 +199,12 @@ bool FileTable::remove(Connection &connection, const FileRow &row, Containers *c
            && connection.prepare(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(m_name)).run(row.id);
 }
 
+bool FileTable::hasRemoved(Connection &connection)
+{
+    Statement read = connection.prepare(QStringLiteral("SELECT 1 FROM removed LIMIT 1"));
+    return read.run() && read.next();
+}
+
 bool FileTable::isRemoved(Connection &connection, const FileRow &file)
 {
     FileStamp stamp;

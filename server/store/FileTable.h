@@ -53,6 +53,7 @@ public:
     // Takes the row out for good; the file stays out as long as it does not change.
     [[nodiscard]] bool remove(Connection &connection, const FileRow &row, Containers *containers) const;
     [[nodiscard]] FileRow row(Connection &connection, int id) const;
+    [[nodiscard]] static bool hasRemoved(Connection &connection);
     // Whether a user took the unchanged file out. One that has changed is forgotten and may come again.
     [[nodiscard]] static bool isRemoved(Connection &connection, const FileRow &file);
 

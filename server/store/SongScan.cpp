@@ -51,7 +51,8 @@ bool SongScan::store(const QVector<ScannedFolder> &folders)
 
 bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &file)
 {
-    SongRow row = SongRow::table().find(m_connection, id);
+    const bool isNew = m_matcher.isNew(id);
+    SongRow row = isNew ? SongRow() : SongRow::table().find(m_connection, id);
     if (row.id == 0) {
         row.id = id;
         row.added = m_now;
@@ -65,7 +66,7 @@ bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &f
     row.seen = m_now;
     row.missingSince = 0;
     row.scanned = StoredJson::ofSong(song);
-    return m_writer.write(&row);
+    return m_writer.write(&row, isNew ? SongWriter::Row::New : SongWriter::Row::Known);
 }
 
 bool SongScan::replace(const QVector<FileMatcher::Move> &moves)

@@ -13,7 +13,7 @@ SongWriter::SongWriter(Connection &connection)
 {
 }
 
-bool SongWriter::write(SongRow *row)
+bool SongWriter::write(SongRow *row, Row kind)
 {
     m_containers.addAlbum(row->albumId);
     row->describe();
@@ -21,8 +21,8 @@ bool SongWriter::write(SongRow *row)
         return false;
     m_containers.addAlbum(row->albumId);
     return SongRow::table().write(m_connection, *row)
-           && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist))
-           && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre));
+           && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist), kind)
+           && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre), kind);
 }
 
 bool SongWriter::findAlbum(SongRow *row)
@@ -33,15 +33,27 @@ bool SongWriter::findAlbum(SongRow *row)
     const QString albumArtist = StoredJson::song(row->scanned).albumArtist;
     const QString artist = albumArtist.trimmed().isEmpty() ? row->artist : albumArtist;
     const QString key = TextFold::nameKey(artist) + QLatin1Char('\n') + TextFold::nameKey(row->album);
+    // The songs of an album come one after the other.
+    if (key == m_lastAlbumKey) {
+        row->albumId = m_lastAlbumId;
+        return true;
+    }
     {
         Statement known = m_connection.prepare(QStringLiteral("SELECT id FROM albums WHERE album_key = ?"));
         if (!known.run(key))
             return false;
-        if (known.next()) {
+        if (known.next())
             row->albumId = known.integer(0);
-            return true;
-        }
     }
+    if (row->albumId == 0 && !addAlbum(row, artist, key))
+        return false;
+    m_lastAlbumKey = key;
+    m_lastAlbumId = row->albumId;
+    return true;
+}
+
+bool SongWriter::addAlbum(SongRow *row, const QString &artist, const QString &key)
+{
     row->albumId = static_cast<int>(Counters::take(m_connection, QStringLiteral("albums")));
     const QString folded = TextFold::folded(row->album);
     return row->albumId > 0
@@ -53,9 +65,10 @@ bool SongWriter::findAlbum(SongRow *row)
                   .run(row->albumId, folded, key, row->album, folded, artist);
 }
 
-bool SongWriter::writeNames(const QString &table, int song, const QStringList &names)
+bool SongWriter::writeNames(const QString &table, int song, const QStringList &names, Row kind)
 {
-    if (!m_connection.prepare(QStringLiteral("DELETE FROM %1 WHERE song_id = ?").arg(table)).run(song))
+    if (kind == Row::Known
+        && !m_connection.prepare(QStringLiteral("DELETE FROM %1 WHERE song_id = ?").arg(table)).run(song))
         return false;
     QSet<QString> written;
     for (const QString &name : names) {

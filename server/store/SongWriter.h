@@ -9,10 +9,13 @@ class Connection;
 
 class SongWriter final {
 public:
+    enum class Row { Known, New };
+
     explicit SongWriter(Connection &connection);
 
-    // The row as it was read, with changed sources; what follows from them is set here.
-    [[nodiscard]] bool write(SongRow *row);
+    // The row as it was read, with changed sources; what follows from them is set here. A new one is one
+    // whose id was never in the database.
+    [[nodiscard]] bool write(SongRow *row, Row kind = Row::Known);
     // Likes, playlists and the place among the recent songs go from one song to the other, which has
     // precedence.
     [[nodiscard]] bool inherit(int from, int to);
@@ -22,8 +25,11 @@ public:
 
 private:
     [[nodiscard]] bool findAlbum(SongRow *row);
-    [[nodiscard]] bool writeNames(const QString &table, int song, const QStringList &names);
+    [[nodiscard]] bool addAlbum(SongRow *row, const QString &artist, const QString &key);
+    [[nodiscard]] bool writeNames(const QString &table, int song, const QStringList &names, Row kind);
 
     Connection &m_connection;
     Containers m_containers;
+    QString m_lastAlbumKey;
+    int m_lastAlbumId{0};
 };

@@ -57,7 +57,7 @@ bool VideoScan::store(const QVector<ScannedFolder> &folders)
 
 bool VideoScan::write(const Found &found, const FileRow &file)
 {
-    VideoRow row = VideoRow::table().find(m_connection, found.id);
+    VideoRow row = m_matcher.isNew(found.id) ? VideoRow() : VideoRow::table().find(m_connection, found.id);
     if (row.id == 0) {
         row.id = found.id;
         row.added = m_now;

@@ -136,10 +136,11 @@ bool ProbePool::waitUntil(Condition condition)
     return !*m_state->cancelled;
 }
 
-// When the next thread is to be given up; the lock is held.
+// When the next thread is to be given up, or later; the lock is held. A thread that takes a file from now on, of
+// which nobody is told, has as much time as any.
 MediaDeadline::Clock::time_point ProbePool::nextStuck() const
 {
-    Clock::time_point next = Clock::now() + std::chrono::hours(1);
+    Clock::time_point next = Clock::now() + m_state->limits.perFile + m_state->limits.grace;
     for (const std::shared_ptr<Worker> &worker : m_state->workers) {
         if (worker->job.work)
             next = std::min(next, worker->since + m_state->limits.perFile + m_state->limits.grace);

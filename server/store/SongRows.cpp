@@ -50,9 +50,8 @@ bool isEmpty(const QJsonValue &value)
     return value.isString() ? value.toString().isEmpty() : value.toInt() == 0;
 }
 
-void takeScanned(SongRow *row)
+void takeScanned(SongRow *row, const ScannedSong &song)
 {
-    const ScannedSong song = StoredJson::song(row->scanned);
     row->title = song.title.isEmpty() ? QFileInfo(row->path).completeBaseName() : song.title;
     row->artist = song.artist;
     row->genre = song.genre;
@@ -111,14 +110,16 @@ ScannedSong SongRow::scannedSong() const
     return song;
 }
 
-void SongRow::describe()
+void SongRow::describe(const ScannedSong &said)
 {
-    takeScanned(this);
-    const QJsonObject edits = QJsonDocument::fromJson(edited.toUtf8()).object();
-    for (const EditableField &field : kEditable) {
-        const auto edit = edits.find(field.name);
-        if (edit != edits.end())
-            setValue(this, field, edit.value());
+    takeScanned(this, said);
+    if (!edited.isEmpty()) {
+        const QJsonObject edits = QJsonDocument::fromJson(edited.toUtf8()).object();
+        for (const EditableField &field : kEditable) {
+            const auto edit = edits.find(field.name);
+            if (edit != edits.end())
+                setValue(this, field, edit.value());
+        }
     }
     sortTitle = TextFold::folded(title);
     search = sortTitle;
@@ -127,7 +128,7 @@ void SongRow::describe()
 void SongRow::edit(const SongRecord &record)
 {
     SongRow asScanned = *this;
-    takeScanned(&asScanned);
+    takeScanned(&asScanned, StoredJson::song(scanned));
     QJsonObject edits;
     for (const EditableField &field : kEditable) {
         const QJsonValue wanted = valueOf(record, field);

@@ -40,8 +40,8 @@ struct SongRow {
     [[nodiscard]] static const RowTable<SongRow> &table();
     [[nodiscard]] ScannedSong scannedSong() const;
 
-    // Sets what is listed from what the file says and what was corrected.
-    void describe();
+    // Sets what is listed from what the file says, which stands in scanned as well, and what was corrected.
+    void describe(const ScannedSong &said);
     // Keeps those values of the record that differ from what the file says. A song without title, picture or
     // length is no correction.
     void edit(const SongRecord &record);

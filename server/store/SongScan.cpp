@@ -66,7 +66,7 @@ bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &f
     row.seen = m_now;
     row.missingSince = 0;
     row.scanned = StoredJson::ofSong(song);
-    return m_writer.write(&row, isNew ? SongWriter::Row::New : SongWriter::Row::Known);
+    return m_writer.write(&row, song, isNew ? SongWriter::Row::New : SongWriter::Row::Known);
 }
 
 bool SongScan::replace(const QVector<FileMatcher::Move> &moves)

@@ -13,11 +13,16 @@ SongWriter::SongWriter(Connection &connection)
 {
 }
 
-bool SongWriter::write(SongRow *row, Row kind)
+bool SongWriter::write(SongRow *row)
+{
+    return write(row, StoredJson::song(row->scanned), Row::Known);
+}
+
+bool SongWriter::write(SongRow *row, const ScannedSong &said, Row kind)
 {
     m_containers.addAlbum(row->albumId);
-    row->describe();
-    if (!findAlbum(row))
+    row->describe(said);
+    if (!findAlbum(row, said.albumArtist))
         return false;
     m_containers.addAlbum(row->albumId);
     return SongRow::table().write(m_connection, *row)
@@ -25,12 +30,11 @@ bool SongWriter::write(SongRow *row, Row kind)
            && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre), kind);
 }
 
-bool SongWriter::findAlbum(SongRow *row)
+bool SongWriter::findAlbum(SongRow *row, const QString &albumArtist)
 {
     row->albumId = 0;
     if (row->album.trimmed().isEmpty())
         return true;
-    const QString albumArtist = StoredJson::song(row->scanned).albumArtist;
     const QString artist = albumArtist.trimmed().isEmpty() ? row->artist : albumArtist;
     const QString key = TextFold::nameKey(artist) + QLatin1Char('\n') + TextFold::nameKey(row->album);
     // The songs of an album come one after the other.

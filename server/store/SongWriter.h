@@ -13,9 +13,10 @@ public:
 
     explicit SongWriter(Connection &connection);
 
-    // The row as it was read, with changed sources; what follows from them is set here. A new one is one
-    // whose id was never in the database.
-    [[nodiscard]] bool write(SongRow *row, Row kind = Row::Known);
+    // The row as it was read, with changed sources; what follows from them is set here.
+    [[nodiscard]] bool write(SongRow *row);
+    // The same where what the file says is at hand. A new row is one whose id was never in the database.
+    [[nodiscard]] bool write(SongRow *row, const ScannedSong &said, Row kind);
     // Likes, playlists and the place among the recent songs go from one song to the other, which has
     // precedence.
     [[nodiscard]] bool inherit(int from, int to);
@@ -24,7 +25,7 @@ public:
     [[nodiscard]] Containers *containers() { return &m_containers; }
 
 private:
-    [[nodiscard]] bool findAlbum(SongRow *row);
+    [[nodiscard]] bool findAlbum(SongRow *row, const QString &albumArtist);
     [[nodiscard]] bool addAlbum(SongRow *row, const QString &artist, const QString &key);
     [[nodiscard]] bool writeNames(const QString &table, int song, const QStringList &names, Row kind);
 

@@ -35,9 +35,9 @@ constexpr int FirstPort = 32180;
 constexpr int PeerPort = 32179;
 constexpr int PeerMs = 10 * 60 * 1000;
 constexpr unsigned long PauseMs = 5;
-constexpr double TagLimit = 3;
+constexpr double TagLimit = 1.5;
 constexpr double PeerLimit = 1;
-constexpr double OpenLimit = 3;
+constexpr double OpenLimit = 1.5;
 constexpr double FindLimit = 3;
 
 double ms(const QElapsedTimer &timer)

@@ -260,12 +260,13 @@ TEST_F(HttpServerTest, StoppingLetsARequestUnderWayEnd)
 
 TEST_F(HttpServerTest, AClientThatLeavesBeforeItsAnswerIsForgotten)
 {
-    QSemaphore gate;
-    QSemaphore waiting;
-    m_handlers.rpc = [&](const QByteArray &body) {
+    // The handler may still be on its way out of them when the test has ended.
+    const auto gate = std::make_shared<QSemaphore>();
+    const auto waiting = std::make_shared<QSemaphore>();
+    m_handlers.rpc = [gate, waiting](const QByteArray &body) {
         if (body == "wait") {
-            waiting.release();
-            gate.acquire();
+            waiting->release();
+            gate->acquire();
         }
         return QByteArray(body);
     };
@@ -273,9 +274,9 @@ TEST_F(HttpServerTest, AClientThatLeavesBeforeItsAnswerIsForgotten)
     {
         RawClient client(port());
         client.send(Http::post("wait"));
-        ASSERT_TRUE(waiting.tryAcquire(1, 20000));
+        ASSERT_TRUE(waiting->tryAcquire(1, 20000));
     }
-    gate.release();
+    gate->release();
     EXPECT_TRUE(works());
 }
 

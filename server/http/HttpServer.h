@@ -21,8 +21,10 @@ public:
     };
 
     struct Settings {
-        quint16 port{DefaultPort};         // 0: the system chooses
-        unsigned idleSeconds{30};          // a connection on which nothing moves for so long is closed
+        quint16 port{DefaultPort}; // 0: the system chooses
+        // A connection on which nothing moves for so long is closed. One whose client left in the middle of a
+        // request is not known from a slow one: so many can be held for so long by who sends only halves.
+        unsigned idleSeconds{5};
         unsigned connections{2048};        // open at once; more wait to be accepted
         int threads{16};                   // that carry requests out
         qint64 largestBody{16777216};      // bytes; a longer one is answered with 413

@@ -144,6 +144,8 @@ TEST_F(HttpStormTest, DamagedRequestsCostNoMemoryAndNoService)
     }
     const qint64 grown = residentKilobytes() - before;
     RecordProperty("grownKilobytes", std::to_string(grown));
+#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
     EXPECT_LT(grown, 20 * 1024);
+#endif
     EXPECT_TRUE(ask(Http::post(heartbeat)).body.contains("\"Finished\":\"1\""));
 }

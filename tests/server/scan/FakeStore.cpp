@@ -4,24 +4,24 @@ QHash<QString, QByteArray> FakeStore::fingerprints(int pathId) const
 {
     std::lock_guard lock(m_mutex);
     QHash<QString, QByteArray> result;
-    for (const auto &[path, folder] : m_folders) {
-        if (folder.pathId == pathId)
-            result.insert(path, folder.fingerprint);
+    for (const auto &[place, folder] : m_folders) {
+        if (place.first == pathId)
+            result.insert(place.second, folder.fingerprint);
     }
     return result;
 }
 
-QVector<ScannedSong> FakeStore::storedSongs(int, const QString &folder) const
+QVector<ScannedSong> FakeStore::storedSongs(int pathId, const QString &folder) const
 {
     std::lock_guard lock(m_mutex);
-    const auto found = m_folders.find(folder);
+    const auto found = m_folders.find({pathId, folder});
     return found == m_folders.end() ? QVector<ScannedSong>() : found->second.songs;
 }
 
-QVector<ScannedVideo> FakeStore::storedVideos(int, const QString &folder) const
+QVector<ScannedVideo> FakeStore::storedVideos(int pathId, const QString &folder) const
 {
     std::lock_guard lock(m_mutex);
-    const auto found = m_folders.find(folder);
+    const auto found = m_folders.find({pathId, folder});
     return found == m_folders.end() ? QVector<ScannedVideo>() : found->second.videos;
 }
 
@@ -29,16 +29,16 @@ bool FakeStore::store(const QVector<ScannedFolder> &folders)
 {
     std::lock_guard lock(m_mutex);
     for (const ScannedFolder &folder : folders)
-        m_folders[folder.path] = folder;
+        m_folders[{folder.pathId, folder.path}] = folder;
     m_stored += folders.size();
     return true;
 }
 
-bool FakeStore::forgetFolders(int, const QStringList &folders)
+bool FakeStore::forgetFolders(int pathId, const QStringList &folders)
 {
     std::lock_guard lock(m_mutex);
     for (const QString &folder : folders)
-        m_folders.erase(folder);
+        m_folders.erase({pathId, folder});
     m_forgotten << folders;
     return true;
 }
@@ -96,7 +96,7 @@ QVector<ScannedSong> FakeStore::songs() const
 {
     std::lock_guard lock(m_mutex);
     QVector<ScannedSong> result;
-    for (const auto &[path, folder] : m_folders)
+    for (const auto &[place, folder] : m_folders)
         result << folder.songs;
     return result;
 }
@@ -114,7 +114,7 @@ QVector<ScannedVideo> FakeStore::videos() const
 {
     std::lock_guard lock(m_mutex);
     QVector<ScannedVideo> result;
-    for (const auto &[path, folder] : m_folders)
+    for (const auto &[place, folder] : m_folders)
         result << folder.videos;
     return result;
 }
@@ -123,8 +123,8 @@ QStringList FakeStore::folderPaths() const
 {
     std::lock_guard lock(m_mutex);
     QStringList result;
-    for (const auto &[path, folder] : m_folders)
-        result << path;
+    for (const auto &[place, folder] : m_folders)
+        result << place.second;
     return result;
 }
 

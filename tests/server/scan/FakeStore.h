@@ -8,6 +8,7 @@
 
 #include <map>
 #include <mutex>
+#include <utility>
 
 class FakeStore final : public IScanStore, public ILibraryRoots {
 public:
@@ -43,7 +44,9 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    std::map<QString, ScannedFolder> m_folders;
+    // The same folder may be in both libraries.
+    using Place = std::pair<int, QString>;
+    std::map<Place, ScannedFolder> m_folders;
     std::map<int, RootFolder> m_roots;
     QStringList m_forgotten;
     int m_stored{0};

@@ -136,8 +136,8 @@ bool ProbePool::waitUntil(Condition condition)
     return !*m_state->cancelled;
 }
 
-// When the next thread is to be given up, or later; the lock is held. A thread that takes a file from now on, of
-// which nobody is told, has as much time as any.
+// When the next thread is to be given up, or later; the lock is held. A thread that takes a file from now on,
+// of which nobody is told, has as much time as any.
 MediaDeadline::Clock::time_point ProbePool::nextStuck() const
 {
     Clock::time_point next = Clock::now() + m_state->limits.perFile + m_state->limits.grace;

@@ -215,17 +215,18 @@ TEST_F(MediaServerManagerCase, FiltersAreKeptByTypeAndOtherTypesAreRefused)
 
 // ---- paths
 
-TEST(MediaPath, DiscMarksAreTakenOffAndOtherPathsStay)
+TEST(MediaPath, DiscMarksAreTakenOffBehindEitherSeparator)
 {
-    struct Row {
-        const char *path;
-        const char *resolved;
-    };
-    for (const Row &row :
-         {Row{"D:\\Film\\folder.bdmv", "D:\\Film"}, Row{"/f/folder.ifo", "/f"}, Row{"/f/folder.bdav", "/f"},
-          Row{"/f/folder.dvdvr", "/f"}, Row{"/f/folder.bdm", "/f"}, Row{"/f/film.mkv", "/f/film.mkv"},
-          Row{"/f/myfolder.ifo", "/f/myfolder.ifo"}, Row{"", ""}})
-        EXPECT_EQ(MediaPath::resolveMediaPath(row.path), row.resolved);
+    for (const char *mark : {"folder.bdmv", "folder.ifo", "folder.bdav", "folder.dvdvr", "folder.bdm"}) {
+        EXPECT_EQ(MediaPath::resolveMediaPath(QString("D:\\Film\\") + mark), "D:\\Film") << mark;
+        EXPECT_EQ(MediaPath::resolveMediaPath(QString("/films/Film/") + mark), "/films/Film") << mark;
+    }
+}
+
+TEST(MediaPath, PathsWithoutADiscMarkStay)
+{
+    for (const char *path : {"/f/film.mkv", "/f/myfolder.ifo", "folder.ifo", "/f/folder.ifo/film.mkv", ""})
+        EXPECT_EQ(MediaPath::resolveMediaPath(path), path);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDebug>
+#include <QThread>
 #include <QX11Info>
 
 #include <cstdlib>
@@ -30,14 +31,27 @@ int connectionLost(Display *)
     leave();
 }
 
-// The toolkit notices on the main thread and asks the process to exit in the usual way.
-void atExit()
+// For the main thread: the toolkit's own connection.
+bool isConnectionLost()
 {
     if (QCoreApplication::instance() == nullptr || !QX11Info::isPlatformX11())
-        return;
+        return false;
     xcb_connection_t *connection = QX11Info::connection();
-    if (connection != nullptr && xcb_connection_has_error(connection) != 0)
+    return connection != nullptr && xcb_connection_has_error(connection) != 0;
+}
+
+QtMessageHandler s_nextHandler{nullptr};
+
+// The toolkit notices on the main thread, says so and asks the process to exit in the usual way. Its word is
+// the last moment before the tear-down begins, with the libraries that were loaded last.
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QCoreApplication *application = QCoreApplication::instance();
+    const bool isMain = application != nullptr && application->thread() == QThread::currentThread();
+    if (type == QtWarningMsg && isMain && isConnectionLost())
         leave();
+    if (s_nextHandler != nullptr)
+        s_nextHandler(type, context, message);
 }
 
 } // namespace
@@ -57,5 +71,6 @@ void WindowSystem::endWithDisplay()
     if (!QX11Info::isPlatformX11())
         return;
     XSetIOErrorHandler(connectionLost);
-    std::atexit(atExit);
+    if (const QtMessageHandler before = qInstallMessageHandler(handleMessage); before != handleMessage)
+        s_nextHandler = before;
 }

@@ -1,6 +1,8 @@
 #include "platform/WindowSystem.h"
 
 #include <QByteArray>
+#include <QProcess>
+#include <QProcessEnvironment>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +50,25 @@ TEST(WindowSystemTest, WindowsStandOnTheXServerUnlessSomethingElseThanWaylandWas
         WindowSystem::choose();
         EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), QByteArray(row.chosen)) << row.asked << ' ' << row.display;
     }
+}
+
+TEST(WindowSystemTest, AProgramThatLosesItsDisplayEndsWithoutTearingItselfDown)
+{
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
+    ASSERT_TRUE(server.waitForReadyRead(20000));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", ":" + QString::fromLatin1(server.readLine()).trimmed());
+    environment.remove("QT_QPA_PLATFORM");
+    QProcess child;
+    child.setProcessEnvironment(environment);
+    child.start(DISPLAY_CHILD, QStringList());
+    ASSERT_TRUE(child.waitForReadyRead(20000));
+    server.kill();
+    ASSERT_TRUE(server.waitForFinished(20000));
+    ASSERT_TRUE(child.waitForFinished(20000));
+    EXPECT_EQ(child.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(child.exitCode(), 1);
 }
 
 } // namespace

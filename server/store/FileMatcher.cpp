@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 #include "Counters.h"
+#include "MovedFiles.h"
 
 #include <QHash>
 #include <QSet>
@@ -11,30 +12,25 @@
 namespace {
 
 using Place = QPair<QString, int>;
+using Look = FileMatcher::Look;
 
 Place placeOf(const FileRow &file)
 {
     return {file.path, file.track};
 }
 
-using Look = QPair<QPair<qint64, qint64>, Place>;
-
 Look lookOf(const FileRow &file)
 {
     return {{file.stamp.size, file.stamp.modifiedMs}, {file.suffix, file.track}};
 }
 
-// The rows of the places that one file was moved through, oldest first: each was made after the file was last
-// seen in the place before. Empty where two of them were there at once, which are files of their own.
-QVector<FileRow> succession(QVector<FileRow> lost)
+// One more than are told apart says that there are too many.
+constexpr int kEnough = MovedFiles::kMost + 1;
+
+// What is known of a song stands in its file; what is known of a film is mostly read from names.
+MovedFiles::Witness witnessOf(const FileTable &table)
 {
-    std::sort(lost.begin(), lost.end(),
-              [](const FileRow &first, const FileRow &second) { return first.added < second.added; });
-    for (int index = 1; index < lost.size(); ++index) {
-        if (lost.at(index).added <= lost.at(index - 1).seen)
-            return {};
-    }
-    return lost;
+    return table.isVideos() ? MovedFiles::Witness::Name : MovedFiles::Witness::File;
 }
 
 } // namespace
@@ -47,7 +43,7 @@ FileMatcher::FileMatcher(Connection &connection, const FileTable &table, qint64 
 }
 
 QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVector<FileRow> &files,
-                                Containers *containers)
+                                const ContentOf &contentOf, Containers *containers)
 {
     if (!hideOthers(folders, files, containers)) {
         m_failed = true;
@@ -61,7 +57,7 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
                     ? kRefused
                     : m_table.at(m_connection, file.path, file.track).id);
     }
-    matchMoves(files, &ids);
+    matchMoves(files, contentOf, &ids);
     giveNewIds(&ids);
     return ids;
 }
@@ -82,36 +78,60 @@ bool FileMatcher::hideOthers(const QVector<ScannedFolder> &folders, const QVecto
     return m_table.hide(m_connection, m_lost, m_now, containers);
 }
 
-void FileMatcher::matchMoves(const QVector<FileRow> &files, QVector<int> *ids)
+void FileMatcher::matchMoves(const QVector<FileRow> &files, const ContentOf &contentOf, QVector<int> *ids)
 {
-    QHash<Look, int> comers;
-    QSet<int> taken;
+    QHash<Look, QVector<int>> comers;
+    QSet<int> known;
     for (int index = 0; index < files.size(); ++index) {
         if (ids->at(index) == 0)
-            ++comers[lookOf(files.at(index))];
+            comers[lookOf(files.at(index))] << index;
         else
-            taken.insert(ids->at(index));
+            known.insert(ids->at(index));
     }
+    const MovedFiles moved(witnessOf(m_table));
     for (int index = 0; index < files.size(); ++index) {
-        if (ids->at(index) != 0 || comers.value(lookOf(files.at(index))) != 1)
+        if (ids->at(index) != 0)
             continue;
-        QVector<FileRow> lost = m_table.alike(m_connection, files.at(index), true);
+        // All files of a look are matched with the first of them.
+        const QVector<int> alike = comers.take(lookOf(files.at(index)));
+        if (alike.isEmpty() || alike.size() > MovedFiles::kMost)
+            continue;
+        QVector<FileRow> lost = m_table.alike(m_connection, files.at(index), true, kEnough);
         lost.erase(std::remove_if(lost.begin(), lost.end(),
-                                  [&taken](const FileRow &row) { return taken.contains(row.id); }),
+                                  [&known](const FileRow &row) { return known.contains(row.id); }),
                    lost.end());
-        const QVector<FileRow> places = succession(lost);
-        if (places.isEmpty())
+        if (lost.isEmpty())
             continue;
-        (*ids)[index] = places.first().id;
-        for (const FileRow &place : places) {
-            const int id = place.id;
-            taken.insert(id);
-            if (id != places.first().id)
-                m_earlier << Move{places.first().id, id};
-            m_lost.erase(std::remove_if(m_lost.begin(), m_lost.end(),
-                                        [id](const FileRow &row) { return row.id == id; }),
-                         m_lost.end());
+        QVector<FileRow> come;
+        for (const int comer : alike) {
+            come << files.at(comer);
+            come.last().added = std::numeric_limits<qint64>::max();
+            come.last().content = contentOf(comer);
         }
+        const bool isShared = lost.size() > 1 || come.size() > 1
+                              || !m_table.alike(m_connection, files.at(index), false, 1).isEmpty();
+        if (isShared) {
+            m_table.addContent(m_connection, &lost);
+            m_told.insert(lookOf(files.at(index)));
+        }
+        const QVector<MovedFiles::Found> found =
+            moved.find(lost, come, isShared ? MovedFiles::Look::Shared : MovedFiles::Look::Rare);
+        for (const MovedFiles::Found &file : found) {
+            (*ids)[alike.at(file.comer)] = file.places.first().id;
+            take(file.places);
+        }
+    }
+}
+
+void FileMatcher::take(const QVector<FileRow> &places)
+{
+    for (const FileRow &place : places) {
+        const int id = place.id;
+        if (id != places.first().id)
+            m_earlier << Move{places.first().id, id};
+        m_lost.erase(
+            std::remove_if(m_lost.begin(), m_lost.end(), [id](const FileRow &row) { return row.id == id; }),
+            m_lost.end());
     }
 }
 
@@ -135,27 +155,28 @@ void FileMatcher::giveNewIds(QVector<int> *ids)
 QVector<FileMatcher::Move> FileMatcher::lateMoves(const QVector<FileRow> &lost) const
 {
     QVector<Move> moves;
-    QSet<int> done;
+    QSet<Look> done;
+    const MovedFiles moved(witnessOf(m_table));
     for (const FileRow &row : lost) {
-        if (done.contains(row.id))
+        if (done.contains(lookOf(row)))
             continue;
-        const QVector<FileRow> places = succession(m_table.alike(m_connection, row, true));
-        for (const FileRow &place : places)
-            done.insert(place.id);
-        if (places.isEmpty())
+        done.insert(lookOf(row));
+        QVector<FileRow> comers = m_table.alike(m_connection, row, false, kEnough);
+        if (comers.isEmpty())
             continue;
-        // Only a row that was made after the file was last seen in its old place: another is a copy of its
-        // own.
-        QVector<FileRow> comers = m_table.alike(m_connection, row, false);
-        comers.erase(std::remove_if(comers.begin(), comers.end(),
-                                    [&](const FileRow &comer) { return comer.added <= places.last().seen; }),
-                     comers.end());
-        if (comers.size() != 1)
-            continue;
-        const int id = places.first().id;
-        for (int index = 1; index < places.size(); ++index)
-            moves << Move{id, places.at(index).id};
-        moves << Move{id, comers.first().id};
+        QVector<FileRow> gone = m_table.alike(m_connection, row, true, kEnough);
+        if (gone.size() > 1 || comers.size() > 1) {
+            m_table.addContent(m_connection, &gone);
+            m_table.addContent(m_connection, &comers);
+        }
+        const QVector<MovedFiles::Found> found = moved.find(
+            gone, comers, m_told.contains(lookOf(row)) ? MovedFiles::Look::Told : MovedFiles::Look::Rare);
+        for (const MovedFiles::Found &file : found) {
+            const int id = file.places.first().id;
+            for (int index = 1; index < file.places.size(); ++index)
+                moves << Move{id, file.places.at(index).id};
+            moves << Move{id, comers.at(file.comer).id};
+        }
     }
     return moves;
 }

@@ -2,6 +2,8 @@
 
 #include "Connection.h"
 #include "Containers.h"
+#include "ContentKey.h"
+#include "StoredJson.h"
 
 namespace {
 
@@ -19,12 +21,19 @@ QString bare(const QString &folder)
 
 } // namespace
 
-FileTable::FileTable(const QString &name, const QString &track, const QStringList &containers)
+QString FileRow::nameOf(const QString &realPath)
+{
+    return realPath.mid(realPath.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+FileTable::FileTable(const QString &name, const QString &track, const QString &realPath,
+                     const QStringList &containers)
     : m_name(name)
     , m_track(track)
-    , m_select(QStringLiteral(
-                   "SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since FROM %2 ")
-                   .arg(track, name))
+    , m_select(
+          QStringLiteral(
+              "SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since, %2 FROM %3 ")
+              .arg(track, realPath, name))
     , m_containers(containers.join(QStringLiteral(", ")))
     , m_isVideos(containers.size() > 1)
 {
@@ -32,14 +41,14 @@ FileTable::FileTable(const QString &name, const QString &track, const QStringLis
 
 const FileTable &FileTable::videos()
 {
-    static const FileTable table(QStringLiteral("items"), QStringLiteral("-1"),
+    static const FileTable table(QStringLiteral("items"), QStringLiteral("-1"), QStringLiteral("real_path"),
                                  {QStringLiteral("show_id"), QStringLiteral("group_id")});
     return table;
 }
 
 const FileTable &FileTable::songs()
 {
-    static const FileTable table(QStringLiteral("songs"), QStringLiteral("track"),
+    static const FileTable table(QStringLiteral("songs"), QStringLiteral("track"), QStringLiteral("path"),
                                  {QStringLiteral("album_id")});
     return table;
 }
@@ -61,6 +70,7 @@ FileRow FileTable::read(const Statement &statement)
     row.added = statement.number(7);
     row.seen = statement.number(8);
     row.missing = statement.number(9) != 0;
+    row.name = FileRow::nameOf(statement.text(10));
     return row;
 }
 
@@ -91,17 +101,30 @@ QVector<FileRow> FileTable::inFolder(Connection &connection, int root, const QSt
     return statement.run(folder, root) ? readAll(&statement) : QVector<FileRow>();
 }
 
-QVector<FileRow> FileTable::alike(Connection &connection, const FileRow &file, bool missing) const
+QVector<FileRow> FileTable::alike(Connection &connection, const FileRow &file, bool missing, int most) const
 {
     if (file.stamp.size <= 0)
         return {};
     Statement statement = connection.prepare(
         m_select
-        + QStringLiteral("WHERE size = ? AND modified = ? AND suffix = ? AND %1 = ? AND missing_since %2 0")
+        + QStringLiteral(
+              "WHERE size = ? AND modified = ? AND suffix = ? AND %1 = ? AND missing_since %2 0 LIMIT ?")
               .arg(m_track, missing ? QStringLiteral(">") : QStringLiteral("=")));
-    if (!statement.run(file.stamp.size, file.stamp.modifiedMs, file.suffix, file.track))
+    if (!statement.run(file.stamp.size, file.stamp.modifiedMs, file.suffix, file.track, most))
         return {};
     return readAll(&statement);
+}
+
+void FileTable::addContent(Connection &connection, QVector<FileRow> *rows) const
+{
+    for (FileRow &row : *rows) {
+        Statement read =
+            connection.prepare(QStringLiteral("SELECT scanned FROM %1 WHERE id = ?").arg(m_name));
+        if (!read.run(row.id) || !read.next())
+            continue;
+        row.content = m_isVideos ? ContentKey::ofVideo(StoredJson::video(read.text(0)))
+                                 : ContentKey::ofSong(StoredJson::song(read.text(0)));
+    }
 }
 
 QVector<FileRow> FileTable::below(Connection &connection, int root, const QString &folder) const

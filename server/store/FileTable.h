@@ -16,12 +16,16 @@ struct FileRow {
     int id{0};
     QString folder;
     QString path;
+    QString name; // of the file, or of the folder of a disc
     QString suffix;
     int track{-1};
     FileStamp stamp;
     qint64 added{0};
     qint64 seen{0}; // when a scan last found it
     bool missing{false};
+    QString content; // ContentKey, filled in only where files look alike
+
+    [[nodiscard]] static QString nameOf(const QString &realPath);
 };
 
 class FileTable final {
@@ -35,8 +39,12 @@ public:
     [[nodiscard]] FileRow at(Connection &connection, const QString &path, int track) const;
     [[nodiscard]] QVector<FileRow> inFolder(Connection &connection, int root, const QString &folder) const;
     // Rows, missing or present ones, of files that look the same: size, time, suffix and track. None for
-    // empty files.
-    [[nodiscard]] QVector<FileRow> alike(Connection &connection, const FileRow &file, bool missing) const;
+    // empty files, and not more than the number.
+    [[nodiscard]] QVector<FileRow> alike(Connection &connection, const FileRow &file, bool missing,
+                                         int most) const;
+    // Fills in FileRow::content.
+    void addContent(Connection &connection, QVector<FileRow> *rows) const;
+    [[nodiscard]] bool isVideos() const { return m_isVideos; }
     // The present rows of a root's folder and of all below it; of the whole root without a folder.
     [[nodiscard]] QVector<FileRow> below(Connection &connection, int root, const QString &folder = {}) const;
 
@@ -58,7 +66,8 @@ public:
     [[nodiscard]] static bool isRemoved(Connection &connection, const FileRow &file);
 
 private:
-    FileTable(const QString &name, const QString &track, const QStringList &containers);
+    FileTable(const QString &name, const QString &track, const QString &realPath,
+              const QStringList &containers);
     [[nodiscard]] static FileRow read(const Statement &statement);
     [[nodiscard]] static QVector<FileRow> readAll(Statement *statement);
     [[nodiscard]] bool noteContainers(Connection &connection, int id, Containers *containers) const;

@@ -1,6 +1,7 @@
 #include "SongScan.h"
 
 #include "Connection.h"
+#include "ContentKey.h"
 #include "StoredJson.h"
 
 #include <QDebug>
@@ -31,6 +32,7 @@ bool SongScan::store(const QVector<ScannedFolder> &folders)
             FileRow file;
             file.folder = folder.path;
             file.path = song.path;
+            file.name = FileRow::nameOf(song.path);
             file.suffix = song.suffix;
             file.track = song.track;
             file.stamp = song.stamp;
@@ -38,7 +40,9 @@ bool SongScan::store(const QVector<ScannedFolder> &folders)
             found << qMakePair(&song, folder.pathId);
         }
     }
-    const QVector<int> ids = m_matcher.match(folders, files, m_writer.containers());
+    const QVector<int> ids = m_matcher.match(
+        folders, files, [&found](int index) { return ContentKey::ofSong(*found.at(index).first); },
+        m_writer.containers());
     if (m_matcher.isFailed() || !replace(m_matcher.earlierMoves()))
         return false;
     for (int index = 0; index < found.size(); ++index) {

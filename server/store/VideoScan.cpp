@@ -1,6 +1,7 @@
 #include "VideoScan.h"
 
 #include "Connection.h"
+#include "ContentKey.h"
 #include "ShowTable.h"
 #include "StoredJson.h"
 
@@ -38,13 +39,16 @@ bool VideoScan::store(const QVector<ScannedFolder> &folders)
             FileRow file;
             file.folder = folder.path;
             file.path = video.path;
+            file.name = FileRow::nameOf(video.realPath.isEmpty() ? video.path : video.realPath);
             file.suffix = QFileInfo(video.path).suffix().toLower();
             file.stamp = video.stamp;
             files << file;
             found << Found{&video, folder.pathId, 0};
         }
     }
-    const QVector<int> ids = m_matcher.match(folders, files, m_writer.containers());
+    const QVector<int> ids = m_matcher.match(
+        folders, files, [&found](int index) { return ContentKey::ofVideo(*found.at(index).video); },
+        m_writer.containers());
     if (m_matcher.isFailed() || !replace(m_matcher.earlierMoves()))
         return false;
     for (int index = 0; index < found.size(); ++index) {

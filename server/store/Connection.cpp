@@ -1,6 +1,7 @@
 #include "Connection.h"
 
 #include <QDebug>
+#include <QHash>
 #include <QSqlError>
 
 #include <atomic>
@@ -17,6 +18,13 @@ QString nextName()
 }
 
 } // namespace
+
+std::size_t Connection::TextHash::operator()(const QString &sql) const
+{
+    constexpr qsizetype kHashed = 48;
+    const QStringView text(sql);
+    return qHash(text.right(qMin(kHashed, text.size()))) + static_cast<uint>(sql.size());
+}
 
 Connection::Connection(const ConnectionSettings &settings, Access access)
     : m_settings(settings)

@@ -55,7 +55,7 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
     for (const FileRow &file : files) {
         ids << (anyRemoved && FileTable::isRemoved(m_connection, file)
                     ? kRefused
-                    : m_table.at(m_connection, file.path, file.track).id);
+                    : m_table.idAt(m_connection, file.path, file.track));
     }
     matchMoves(files, contentOf, &ids);
     giveNewIds(&ids);

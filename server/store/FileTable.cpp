@@ -34,6 +34,7 @@ FileTable::FileTable(const QString &name, const QString &track, const QString &r
           QStringLiteral(
               "SELECT id, folder, path, suffix, %1, size, modified, added, seen, missing_since, %2 FROM %3 ")
               .arg(track, realPath, name))
+    , m_idAt(QStringLiteral("SELECT id FROM %2 WHERE path = ? AND %1 = ?").arg(track, name))
     , m_containers(containers.join(QStringLiteral(", ")))
     , m_isVideos(containers.size() > 1)
 {
@@ -88,11 +89,10 @@ FileRow FileTable::row(Connection &connection, int id) const
     return statement.run(id) && statement.next() ? read(statement) : FileRow();
 }
 
-FileRow FileTable::at(Connection &connection, const QString &path, int track) const
+int FileTable::idAt(Connection &connection, const QString &path, int track) const
 {
-    Statement statement =
-        connection.prepare(m_select + QStringLiteral("WHERE path = ? AND %1 = ?").arg(m_track));
-    return statement.run(path, track) && statement.next() ? read(statement) : FileRow();
+    Statement statement = connection.prepare(m_idAt);
+    return statement.run(path, track) && statement.next() ? statement.integer(0) : 0;
 }
 
 QVector<FileRow> FileTable::inFolder(Connection &connection, int root, const QString &folder) const

@@ -36,7 +36,8 @@ public:
     [[nodiscard]] static bool isBelow(const QString &path, const QString &folder);
 
     [[nodiscard]] QString name() const { return m_name; }
-    [[nodiscard]] FileRow at(Connection &connection, const QString &path, int track) const;
+    // 0: none. Asked for each file of a scan.
+    [[nodiscard]] int idAt(Connection &connection, const QString &path, int track) const;
     [[nodiscard]] QVector<FileRow> inFolder(Connection &connection, int root, const QString &folder) const;
     // Rows, missing or present ones, of files that look the same: size, time, suffix and track. None for
     // empty files, and not more than the number.
@@ -75,6 +76,7 @@ private:
     QString m_name;
     QString m_track; // the column, or what stands for it
     QString m_select;
+    QString m_idAt;
     QString m_containers; // the columns of the ids that are counted over the rows
     bool m_isVideos;
 };

@@ -75,6 +75,8 @@ bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &f
 
 bool SongScan::replace(const QVector<FileMatcher::Move> &moves)
 {
+    if (!moves.isEmpty() && !m_writer.writeNames())
+        return false;
     for (const FileMatcher::Move &move : moves) {
         if (!m_writer.inherit(move.newId, move.oldId))
             return false;

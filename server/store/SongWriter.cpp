@@ -6,10 +6,10 @@
 #include "TextFold.h"
 #include "TextLists.h"
 
-#include <QSet>
-
 SongWriter::SongWriter(Connection &connection)
     : m_connection(connection)
+    , m_artists(connection, QStringLiteral("song_artists"))
+    , m_genres(connection, QStringLiteral("song_genres"))
 {
 }
 
@@ -26,8 +26,8 @@ bool SongWriter::write(SongRow *row, const ScannedSong &said, Row kind)
         return false;
     m_containers.addAlbum(row->albumId);
     return SongRow::table().write(m_connection, *row)
-           && writeNames(QStringLiteral("song_artists"), row->id, TextLists::artists(row->artist), kind)
-           && writeNames(QStringLiteral("song_genres"), row->id, TextLists::genres(row->genre), kind);
+           && addNames(&m_artists, row->id, TextLists::artists(row->artist), kind)
+           && addNames(&m_genres, row->id, TextLists::genres(row->genre), kind);
 }
 
 bool SongWriter::findAlbum(SongRow *row, const QString &albumArtist)
@@ -69,24 +69,17 @@ bool SongWriter::addAlbum(SongRow *row, const QString &artist, const QString &ke
                   .run(row->albumId, folded, key, row->album, folded, artist);
 }
 
-bool SongWriter::writeNames(const QString &table, int song, const QStringList &names, Row kind)
+bool SongWriter::addNames(SongNames *table, int song, const QStringList &names, Row kind)
 {
-    if (kind == Row::Known
-        && !m_connection.prepare(QStringLiteral("DELETE FROM %1 WHERE song_id = ?").arg(table)).run(song))
+    if (kind == Row::Known && !table->forget(song))
         return false;
-    QSet<QString> written;
-    for (const QString &name : names) {
-        const QString key = TextFold::nameKey(name);
-        if (written.contains(key))
-            continue;
-        written.insert(key);
-        if (!m_connection
-                 .prepare(
-                     QStringLiteral("INSERT INTO %1 (song_id, name_key, name) VALUES (?, ?, ?)").arg(table))
-                 .run(song, key, name))
-            return false;
-    }
+    table->add(song, names);
     return true;
+}
+
+bool SongWriter::writeNames()
+{
+    return m_artists.write() && m_genres.write();
 }
 
 bool SongWriter::inherit(int from, int to)
@@ -112,5 +105,5 @@ bool SongWriter::inherit(int from, int to)
 
 bool SongWriter::finish()
 {
-    return m_containers.refresh(m_connection);
+    return writeNames() && m_containers.refresh(m_connection);
 }

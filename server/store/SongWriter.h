@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Containers.h"
+#include "SongNames.h"
 #include "SongRows.h"
 
 class Connection;
@@ -20,17 +21,21 @@ public:
     // Likes, playlists and the place among the recent songs go from one song to the other, which has
     // precedence.
     [[nodiscard]] bool inherit(int from, int to);
-    // To be called once at the end: counts and versions.
+    // Before a song that was written is taken away again.
+    [[nodiscard]] bool writeNames();
+    // To be called once at the end: names, counts and versions.
     [[nodiscard]] bool finish();
     [[nodiscard]] Containers *containers() { return &m_containers; }
 
 private:
     [[nodiscard]] bool findAlbum(SongRow *row, const QString &albumArtist);
     [[nodiscard]] bool addAlbum(SongRow *row, const QString &artist, const QString &key);
-    [[nodiscard]] bool writeNames(const QString &table, int song, const QStringList &names, Row kind);
+    [[nodiscard]] static bool addNames(SongNames *table, int song, const QStringList &names, Row kind);
 
     Connection &m_connection;
     Containers m_containers;
+    SongNames m_artists;
+    SongNames m_genres;
     QString m_lastAlbumKey;
     int m_lastAlbumId{0};
 };

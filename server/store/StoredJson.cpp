@@ -68,22 +68,6 @@ const Field<GivenDescription> kGivenFields[] = {
     {QLatin1String("episode"), &GivenDescription::episode},
 };
 
-void put(QJsonObject *object, QLatin1String name, const QString &value)
-{
-    if (!value.isEmpty())
-        object->insert(name, value);
-}
-
-void put(QJsonObject *object, QLatin1String name, int value)
-{
-    object->insert(name, value);
-}
-
-void put(QJsonObject *object, QLatin1String name, bool value)
-{
-    object->insert(name, value);
-}
-
 void get(const QJsonValue &value, QString *target)
 {
     *target = value.toString(*target);
@@ -99,12 +83,18 @@ void get(const QJsonValue &value, bool *target)
     *target = value.toBool(*target);
 }
 
+// What a record without values holds as well is left out: reading begins with such a one.
 template<class Record, size_t Count>
 QJsonObject toObject(const Record &record, const Field<Record> (&fields)[Count])
 {
+    static const Record nothing;
     QJsonObject object;
+    const auto put = [&](QLatin1String name, auto member) {
+        if (record.*member != nothing.*member)
+            object.insert(name, record.*member);
+    };
     for (const Field<Record> &field : fields)
-        std::visit([&](auto member) { put(&object, field.name, record.*member); }, field.member);
+        std::visit([&](auto member) { put(field.name, member); }, field.member);
     return object;
 }
 

@@ -38,8 +38,9 @@ QVector<int> positions(int totalSeconds)
     QVector<int> result;
     if (totalSeconds <= 0)
         return result;
-    const int interval = std::max(LeastSeconds, (totalSeconds + MostRows - 1) / MostRows);
-    for (qint64 second = 0; second < totalSeconds; second += interval)
+    const qint64 total = totalSeconds; // a broken file may tell the largest length that there is
+    const qint64 interval = std::max<qint64>(LeastSeconds, (total + MostRows - 1) / MostRows);
+    for (qint64 second = 0; second < total; second += interval)
         result.append(int(second));
     return result;
 }

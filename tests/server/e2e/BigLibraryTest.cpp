@@ -6,6 +6,7 @@
 #include "library/JsonRpc.h"
 #include "library/VideoLists.h"
 #include "library/VideoProtocol.h"
+#include "support/Sanitizers.h"
 
 #include <QElapsedTimer>
 
@@ -58,7 +59,8 @@ TEST_F(BigLibraryTest, TheLastFilmCostsWhatTheFirstDoes)
     std::printf("# record 0: %.2f ms, record %d: %.2f ms, memory: %.1f MB\n", first, Many - 1, last,
                 m_server.residentKib() / 1024.0);
     EXPECT_LT(last, first * Tolerance);
-    EXPECT_LT(m_server.residentKib(), MostKib);
+    if (!Sanitizers::HoldsMemory)
+        EXPECT_LT(m_server.residentKib(), MostKib);
     EXPECT_EQ(m_server.stop(), 0);
 }
 
@@ -74,5 +76,6 @@ TEST_F(BigLibraryTest, ALoadOfAllSongsStaysWithinTheServersMemory)
     EXPECT_EQ(m_manager->music().songs().size(), Many);
     EXPECT_EQ(m_manager->music().albums().size(), Many / 10);
     EXPECT_EQ(m_manager->music().artists().size(), Many / 100);
-    EXPECT_LT(m_server.residentKib(), MostKib);
+    if (!Sanitizers::HoldsMemory)
+        EXPECT_LT(m_server.residentKib(), MostKib);
 }

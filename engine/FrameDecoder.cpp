@@ -1,10 +1,14 @@
 #include "FrameDecoder.h"
 
+#include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
 constexpr std::int64_t MaxPixels = 8192LL * 8192;
+// Less than the time between two frames of any source.
+constexpr double Moment = 0.0001;
 
 } // namespace
 
@@ -114,11 +118,46 @@ AvFrame FrameDecoder::decode(const AVPacket &packet)
     return receive();
 }
 
-double FrameDecoder::secondsOf(const AVFrame &frame) const
+// What lies behind the frame that is wanted is read until the wanted time alone, and nothing before it is
+// decoded: that costs far more than reading.
+AvFrame FrameDecoder::keyFrameUntil(double &seconds, KeyFrame which)
 {
-    const std::int64_t stamp =
-        frame.best_effort_timestamp != AV_NOPTS_VALUE ? frame.best_effort_timestamp : frame.pts;
+    const AvPacket kept(av_packet_alloc());
+    bool isFirst = true;
+    while (m_context && kept && readPacket()) {
+        const bool isKey = (m_packet->flags & AV_PKT_FLAG_KEY) != 0;
+        if (std::exchange(isFirst, false))
+            m_beganAtKeyFrame = isKey;
+        const bool isBehind = secondsOf(*m_packet) > seconds;
+        if (isKey && (!isBehind || (which == KeyFrame::Nearest && !kept->data))) {
+            av_packet_unref(kept.get());
+            av_packet_move_ref(kept.get(), m_packet.get());
+        }
+        if (isBehind || (which == KeyFrame::First && kept->data))
+            break;
+    }
+    if (!kept || !kept->data)
+        return nullptr;
+    AvFrame frame = decode(*kept);
+    avcodec_flush_buffers(m_context.get());
+    if (!frame)
+        seconds = std::fmin(seconds, secondsOf(*kept) - Moment);
+    return frame;
+}
+
+double FrameDecoder::secondsOf(std::int64_t stamp) const
+{
     if (stamp == AV_NOPTS_VALUE)
         return std::numeric_limits<double>::quiet_NaN();
     return double(stamp) * av_q2d(m_stream->time_base) - double(m_input->startTime()) / AV_TIME_BASE;
+}
+
+double FrameDecoder::secondsOf(const AVFrame &frame) const
+{
+    return secondsOf(frame.best_effort_timestamp != AV_NOPTS_VALUE ? frame.best_effort_timestamp : frame.pts);
+}
+
+double FrameDecoder::secondsOf(const AVPacket &packet) const
+{
+    return secondsOf(packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts);
 }

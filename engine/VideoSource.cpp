@@ -13,7 +13,15 @@ namespace {
 constexpr double FarthestSeconds = 2.0e6;
 // Two time stamps of one moment may differ by the rounding of their units.
 constexpr double SameMoment = 0.0015;
+// How far before the time wanted a frame is sought, in seconds.
 constexpr double StepsBack[] = {0.0, 1.0, 3.0, 10.0, 30.0, 1e9};
+constexpr double FirstBack = 1.0;
+constexpr double BackFactor = 3.0;
+// Frames are read before they are shown, and seeks without an index go by the former: the first frame lies
+// before the beginning.
+constexpr double BeforeStart = -1.0;
+constexpr double LeadSlack = 0.25;
+constexpr double MostLead = 10.0;
 // What becomes this much smaller shows no edges of its blocks.
 constexpr int MuchSmaller = 3;
 
@@ -92,10 +100,9 @@ bool VideoSource::seekTitle(double &seconds)
     return true;
 }
 
-AvFrame VideoSource::lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late)
+AvFrame VideoSource::lastFrameUntil(double target, AvFrame &late)
 {
     AvFrame best;
-    m_decoder->setKeyFramesOnly(!exact, m_draft);
     while (AvFrame frame = m_decoder->next()) {
         const double time = m_decoder->secondsOf(*frame);
         if (!std::isnan(time) && time > target + SameMoment) {
@@ -103,35 +110,77 @@ AvFrame VideoSource::lastFrameUntil(double target, bool exact, bool firstWillDo,
             break;
         }
         best = std::move(frame);
-        if (firstWillDo || time >= target - SameMoment)
+        if (time >= target - SameMoment)
             break;
     }
     return best;
 }
 
-AvFrame VideoSource::frameAt(double seconds, bool exact)
+AvFrame VideoSource::titleFrameAt(double seconds, bool exact)
 {
-    if (m_title) {
-        double target = seconds;
-        AvFrame late;
-        if (!seekTitle(target))
+    double target = seconds;
+    if (!seekTitle(target))
+        return nullptr;
+    m_decoder->setKeyFramesOnly(!exact, m_draft);
+    if (!exact)
+        return m_decoder->next();
+    AvFrame late;
+    AvFrame frame = lastFrameUntil(target, late);
+    return frame ? std::move(frame) : std::move(late);
+}
+
+// Where a file has no index, a seek lands anywhere before the time, and the next key frame may be behind it:
+// it is sought from further and further back. How far was enough is where the next search begins.
+AvFrame VideoSource::keyFrameAt(double seconds)
+{
+    m_decoder->setKeyFramesOnly(true, m_draft);
+    double until = seconds + SameMoment;
+    double back = m_lead;
+    while (!m_deadline.isOver()) {
+        const double from = std::max(BeforeStart, seconds - back);
+        if (!seekFile(from))
             return nullptr;
-        AvFrame frame = lastFrameUntil(target, exact, !exact, late);
-        return frame ? std::move(frame) : std::move(late);
+        const auto which = from <= BeforeStart ? FrameDecoder::KeyFrame::Nearest
+                           : back > 0.0        ? FrameDecoder::KeyFrame::Last
+                                               : FrameDecoder::KeyFrame::First;
+        if (AvFrame frame = m_decoder->keyFrameUntil(until, which)) {
+            if (back > 0.0 && !m_decoder->beganAtKeyFrame()) {
+                const double enough = seconds - m_decoder->secondsOf(*frame) + LeadSlack;
+                m_lead = std::max(m_lead, std::fmin(enough, MostLead));
+            }
+            return frame;
+        }
+        if (from <= BeforeStart)
+            return nullptr;
+        back = std::max(back * BackFactor, FirstBack);
     }
-    // Where a file has no index, a seek lands anywhere before the time, and the next key frame may be behind
-    // it.
+    return nullptr;
+}
+
+AvFrame VideoSource::exactFrameAt(double seconds)
+{
+    m_decoder->setKeyFramesOnly(false);
     AvFrame late;
     for (const double back : StepsBack) {
-        const double from = std::max(0.0, seconds - back);
+        const double from = std::max(BeforeStart, seconds - back);
         if (m_deadline.isOver() || !seekFile(from))
             break;
-        if (AvFrame frame = lastFrameUntil(seconds, exact, !exact && back == 0.0, late))
+        if (AvFrame frame = lastFrameUntil(seconds, late))
             return frame;
-        if (from == 0.0)
+        if (from <= BeforeStart)
             break;
     }
     return late;
+}
+
+AvFrame VideoSource::frameAt(double seconds, bool exact)
+{
+    if (m_title)
+        return titleFrameAt(seconds, exact);
+    // Nothing is behind the end, and the way back from there would be long.
+    if (const double end = duration(); end > 0.0)
+        seconds = std::min(seconds, end);
+    return exact ? exactFrameAt(seconds) : keyFrameAt(seconds);
 }
 
 bool VideoSource::isMuchLargerThan(int width, int height) const
@@ -148,7 +197,8 @@ bool VideoSource::grab(double seconds, bool exact, int width, int height, Pictur
     m_draft = isMuchLargerThan(width, height);
     seconds = std::clamp(seconds, 0.0, FarthestSeconds);
     AvFrame frame = frameAt(seconds, exact);
-    // Streams that refresh bit by bit mark no frame as a key frame.
+    // Streams that refresh bit by bit mark no frame as a key frame, and a broken first one has none before
+    // it.
     if (!frame && !exact && !m_deadline.isOver())
         frame = frameAt(seconds, true);
     if (!frame)

@@ -40,7 +40,10 @@ private:
     bool seekTitle(double &seconds);
     [[nodiscard]] bool isMuchLargerThan(int width, int height) const;
     AvFrame frameAt(double seconds, bool exact);
-    AvFrame lastFrameUntil(double target, bool exact, bool firstWillDo, AvFrame &late);
+    AvFrame titleFrameAt(double seconds, bool exact);
+    AvFrame keyFrameAt(double seconds);
+    AvFrame exactFrameAt(double seconds);
+    AvFrame lastFrameUntil(double target, AvFrame &late);
 
     Deadline &m_deadline;
     // Declared in this order: each uses the one before it.
@@ -50,4 +53,5 @@ private:
     TitleStream *m_title{nullptr}; // m_stream, for a disc
     int m_index{-1};
     bool m_draft{false}; // the picture under way becomes much smaller
+    double m_lead{0.0};  // seconds before the time wanted that a seek in a file without an index goes to
 };

@@ -1,6 +1,6 @@
 #include "engine/FrameDecoder.h"
 
-#include "engine/VideoSource.h"
+#include "engine/MediaInput.h"
 #include "play/TestClips.h"
 
 #include <gtest/gtest.h>
@@ -103,20 +103,58 @@ TEST_F(FrameDecoderTest, AfterKeyFramesAllFramesComeAgain)
     }
 }
 
-TEST(VideoSourceDraft, ASmallPictureLeavesTheExactOnesAsTheyAre)
+TEST_F(FrameDecoderTest, TheLastKeyFrameUntilATimeIsGivenAndNothingBehindTheTimeIsRead)
 {
-    Deadline deadline(Patience);
-    const auto used = VideoSource::open(TestClips::path("plain.mp4"), 0, deadline);
-    const auto fresh = VideoSource::open(TestClips::path("plain.mp4"), 0, deadline);
-    ASSERT_TRUE(used);
-    ASSERT_TRUE(fresh);
-    Picture draft;
-    ASSERT_TRUE(used->grab(4.5, false, 80, 45, draft));
-    EXPECT_EQ(draft.positionMs, 4000);
-    Picture exact;
-    Picture expected;
-    ASSERT_TRUE(used->grab(4.5, true, 320, 180, exact));
-    ASSERT_TRUE(fresh->grab(4.5, true, 320, 180, expected));
-    EXPECT_EQ(exact.positionMs, expected.positionMs);
-    EXPECT_EQ(exact.bytes, expected.bytes);
+    open("long.mp4");
+    const std::int64_t group = file.size() / 6;
+    decoder.setKeyFramesOnly(true);
+    for (const double second : {25.0, 12.0, 58.0}) {
+        seek(0.0);
+        (void)file.takeBytes();
+        double until = second;
+        const AvFrame frame = decoder.keyFrameUntil(until, FrameDecoder::KeyFrame::Last);
+        ASSERT_TRUE(frame) << second;
+        EXPECT_NEAR(decoder.secondsOf(*frame), int(second / 10) * 10, 0.1);
+        EXPECT_TRUE(decoder.beganAtKeyFrame());
+        EXPECT_EQ(until, second);
+        EXPECT_LT(file.takeBytes(), std::int64_t(double(group) * (second / 10 + 1))) << second;
+    }
+}
+
+TEST_F(FrameDecoderTest, TheFirstKeyFrameIsNotGivenWhenItIsBehindTheTime)
+{
+    open("long.mp4");
+    decoder.setKeyFramesOnly(true);
+    seek(30.0);
+    double until = 29.0;
+    EXPECT_FALSE(decoder.keyFrameUntil(until, FrameDecoder::KeyFrame::First));
+    seek(30.0);
+    until = 39.0;
+    const AvFrame frame = decoder.keyFrameUntil(until, FrameDecoder::KeyFrame::First);
+    ASSERT_TRUE(frame);
+    EXPECT_NEAR(decoder.secondsOf(*frame), 30.0, 0.1);
+}
+
+TEST_F(FrameDecoderTest, TheNearestKeyFrameMayFollowTheTimeAtOnce)
+{
+    open("long.mp4");
+    decoder.setKeyFramesOnly(true);
+    for (const FrameDecoder::KeyFrame which :
+         {FrameDecoder::KeyFrame::Nearest, FrameDecoder::KeyFrame::Last}) {
+        seek(0.0);
+        double until = -0.5;
+        EXPECT_EQ(decoder.keyFrameUntil(until, which) != nullptr, which == FrameDecoder::KeyFrame::Nearest);
+    }
+}
+
+TEST_F(FrameDecoderTest, ASeekWithoutAnIndexIsToldApart)
+{
+    open("long.ts");
+    decoder.setKeyFramesOnly(true);
+    seek(25.0);
+    double until = 45.0;
+    const AvFrame frame = decoder.keyFrameUntil(until, FrameDecoder::KeyFrame::Last);
+    ASSERT_TRUE(frame);
+    EXPECT_NEAR(decoder.secondsOf(*frame), 40.0, 0.2);
+    EXPECT_FALSE(decoder.beganAtKeyFrame());
 }

@@ -52,6 +52,8 @@ std::vector<ClipRow> clipRows()
         {"plain.mp4", video(moving.arg(10)) + sound(440, 10) + h264(25) + aac},
         {"short.mp4", video(moving.arg(1)) + sound(440, 1) + h264(25) + aac},
         {"long.mp4", video(moving.arg(60)) + sound(440, 60) + h264(250) + aac},
+        {"long.ts", video(moving.arg(60)) + sound(440, 60) + h264(250) + QStringList{"-bf", "2"} + aac},
+        {"onekey.ts", video(moving.arg(60)) + h264(100000)},
         {"clip.avi", video(moving.arg(3)) + sound(440, 3) + QStringList{"-c:v", "mpeg4", "-c:a", "mp2"}},
         {"song.flac", sound(440, 4) + QStringList{"-ac", "2", "-c:a", "flac"}},
         {"silent.mp4", video(moving.arg(3)) + h264(25)},

@@ -13,6 +13,8 @@ namespace TestClips {
 //                    and 6 s named One, Two, Three
 //   "short.mp4"      1 s
 //   "long.mp4"       60 s, key frame every ten seconds
+//   "long.ts"        the same without an index
+//   "onekey.ts"      60 s, no key frame but the first one
 //   "clip.avi"       3 s, MPEG-4
 //   "cover.mp3"      3 s with a cover picture
 //   "song.flac"      4 s, stereo 44,100 Hz

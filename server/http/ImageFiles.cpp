@@ -1,5 +1,6 @@
 #include "ImageFiles.h"
 
+#include "store/IArtworkKeys.h"
 #include "store/ILibraryRoots.h"
 
 #include <QDir>
@@ -82,9 +83,10 @@ bool isOrdinary(const QString &key)
 
 } // namespace
 
-ImageFiles::ImageFiles(const QString &cacheFolder, const ILibraryRoots &roots)
+ImageFiles::ImageFiles(const QString &cacheFolder, const ILibraryRoots &roots, const IArtworkKeys &artwork)
     : m_cacheFolder(cacheFolder)
     , m_roots(roots)
+    , m_artwork(artwork)
 {
 }
 
@@ -119,7 +121,7 @@ ImageFiles::Place ImageFiles::placeOf(const QString &key) const
         const QVector<RootFolder> folders = m_roots.folders(libraryId);
         for (const RootFolder &folder : folders) {
             if (isBelow(key, folder.path))
-                return {folder.path, key};
+                return m_artwork.isNamed(key) ? Place{folder.path, key} : Place();
         }
     }
     return {};

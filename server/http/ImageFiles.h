@@ -1,8 +1,8 @@
 // Finds the file of a picture's key and opens it, if it is a picture that may be shown.
 //
 // A key is the bare name of a file in the picture cache, or the absolute path of a file below a library
-// folder. What is no picture, too large, or reached through a link that leads elsewhere counts as not there.
-// Any thread.
+// folder that some record names. What is no picture, too large, or reached through a link that leads
+// elsewhere counts as not there. Any thread.
 #pragma once
 
 #include "OpenedFile.h"
@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+class IArtworkKeys;
 class ILibraryRoots;
 
 struct ImageFile {
@@ -22,7 +23,7 @@ class ImageFiles final {
 public:
     static constexpr qint64 LargestImage = 32 * 1024 * 1024; // bytes
 
-    ImageFiles(const QString &cacheFolder, const ILibraryRoots &roots);
+    ImageFiles(const QString &cacheFolder, const ILibraryRoots &roots, const IArtworkKeys &artwork);
 
     [[nodiscard]] ImageFile open(const QByteArray &encodedKey) const;
 
@@ -41,4 +42,5 @@ private:
 
     QString m_cacheFolder;
     const ILibraryRoots &m_roots;
+    const IArtworkKeys &m_artwork;
 };

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+class IArtworkKeys;
 class ILibraryRoots;
 class IMetadataService;
 class IMusicLibrary;
@@ -27,6 +28,7 @@ public:
     [[nodiscard]] virtual ILibraryRoots &roots() = 0;
     [[nodiscard]] virtual IVideoLibrary &videos() = 0;
     [[nodiscard]] virtual IMusicLibrary &music() = 0;
+    [[nodiscard]] virtual const IArtworkKeys &artwork() const = 0;
     [[nodiscard]] virtual IServerTasks &tasks() = 0;
     [[nodiscard]] virtual IMetadataService &metadata() = 0;
 };

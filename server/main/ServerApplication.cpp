@@ -91,7 +91,7 @@ ServerApplication::Exit ServerApplication::listen()
 {
     m_dispatcher = std::make_unique<RpcDispatcher>(RpcDispatcher::Parts{
         m_parts->roots(), m_parts->videos(), m_parts->music(), m_parts->tasks(), m_parts->metadata()});
-    m_images = std::make_unique<ImageFiles>(m_folder.imageFolder(), m_parts->roots());
+    m_images = std::make_unique<ImageFiles>(m_folder.imageFolder(), m_parts->roots(), m_parts->artwork());
     m_http = std::make_unique<HttpServer>(
         HttpServer::Handlers{[this](const QByteArray &body) { return m_dispatcher->handle(body); },
                              [this](const QByteArray &key) { return imageReply(*m_images, key); }},

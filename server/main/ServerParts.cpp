@@ -10,6 +10,7 @@
 #include "scan/Scanner.h"
 #include "scan/ServerTasks.h"
 #include "scan/VideoFolder.h"
+#include "store/ArtworkKeys.h"
 #include "store/Database.h"
 #include "store/LibraryRoots.h"
 #include "store/MusicLibrary.h"
@@ -30,6 +31,7 @@ public:
         , m_scans(m_database)
         , m_videos(m_database)
         , m_music(m_database)
+        , m_artwork(m_database)
         , m_metadata(folder, configuration, m_videos, m_music,
                      [this](int idFile) { return hasReadableTags(idFile); })
     {
@@ -59,6 +61,7 @@ public:
     ILibraryRoots &roots() override { return m_roots; }
     IVideoLibrary &videos() override { return m_videos; }
     IMusicLibrary &music() override { return m_music; }
+    const IArtworkKeys &artwork() const override { return m_artwork; }
     IServerTasks &tasks() override
     {
         makeTasks();
@@ -98,6 +101,7 @@ private:
     ScanStore m_scans;
     VideoLibrary m_videos;
     MusicLibrary m_music;
+    ArtworkKeys m_artwork;
     MetadataLayer m_metadata;
     LibraryWatcher m_watcher;
     std::optional<Scanner> m_scanner;

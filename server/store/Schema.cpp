@@ -121,9 +121,24 @@ Migration music()
         }};
 }
 
+// What names pictures, so that a picture that no record names is told at once. Empty texts are left out.
+Migration artwork()
+{
+    const auto index = [](const char *table, const char *column) {
+        return QStringLiteral("CREATE INDEX %1_%2 ON %1 (%2) WHERE %2 <> ''")
+            .arg(QLatin1String(table), QLatin1String(column));
+    };
+    return {QStringLiteral("artwork"),
+            {index("items", "poster"), index("items", "backdrop"), index("songs", "poster"),
+             index("shows", "poster"), index("shows", "backdrop"), index("seasons", "poster"),
+             index("collections", "own_poster"), index("collections", "own_backdrop"),
+             index("albums", "user_poster"), index("artist_pictures", "poster"),
+             index("playlists", "poster")}};
+}
+
 } // namespace
 
 QVector<Migration> Schema::steps()
 {
-    return {libraries(), video(), music()};
+    return {libraries(), video(), music(), artwork()};
 }

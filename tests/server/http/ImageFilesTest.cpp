@@ -34,7 +34,8 @@ protected:
 
     QTemporaryDir m_folder;
     FakeRoots m_roots;
-    ImageFiles m_images{m_folder.filePath(QStringLiteral("cache")), m_roots};
+    FakeArtwork m_artwork;
+    ImageFiles m_images{m_folder.filePath(QStringLiteral("cache")), m_roots, m_artwork};
 };
 
 } // namespace
@@ -44,6 +45,7 @@ TEST_F(ImageFilesTest, OpensPicturesOfTheCacheAndOfLibraryFolders)
     write("cache/ab12.jpg", jpeg);
     write("films/Film (2010)/poster é%20#?.png", png);
     const QString art = at("films/Film (2010)/poster é%20#?.png");
+    m_artwork.named << art;
     const ImageFile cached = m_images.open("ab12.jpg");
     ASSERT_TRUE(cached.file.isOpen());
     EXPECT_EQ(cached.contentType, QByteArray("image/jpeg"));
@@ -54,6 +56,49 @@ TEST_F(ImageFilesTest, OpensPicturesOfTheCacheAndOfLibraryFolders)
         EXPECT_TRUE(image.file.isOpen()) << key.constData();
         EXPECT_EQ(image.contentType, QByteArray("image/png"));
     }
+}
+
+TEST_F(ImageFilesTest, APictureInALibraryFolderThatNoRecordNamesIsNotServed)
+{
+    write("films/Film/poster.jpg", jpeg);
+    write("films/Film/private.jpg", jpeg);
+    const QString art = at("films/Film/poster.jpg");
+    EXPECT_FALSE(m_images.open(encoded(art)).file.isOpen());
+    m_artwork.named << art;
+    EXPECT_TRUE(m_images.open(encoded(art)).file.isOpen());
+    // Not by another name for it either.
+    for (const QString &key : {at("films/Film/private.jpg"), at("films//Film/poster.jpg"),
+                               at("films/Film/./poster.jpg"), at("films/Film/../Film/poster.jpg")})
+        EXPECT_FALSE(m_images.open(encoded(key)).file.isOpen()) << qPrintable(key);
+    // Nor once its folder is no library folder any more.
+    m_roots.stored.clear();
+    EXPECT_FALSE(m_images.open(encoded(art)).file.isOpen());
+}
+
+TEST_F(ImageFilesTest, WhatARecordNamesIsServedFromLibraryFoldersOnly)
+{
+    write("outside/a.jpg", jpeg);
+    write("films/film.mkv", "\x1a\x45\xdf\xa3");
+    QDir().mkpath(at("films/folder.jpg"));
+    QFile::link(at("outside/a.jpg"), at("films/link.jpg"));
+    QFile::link(at("outside"), at("films/linked"));
+    const QString keys[] = {at("outside/a.jpg"),
+                            at("films/../outside/a.jpg"),
+                            at("films/link.jpg"),
+                            at("films/linked/a.jpg"),
+                            at("films/film.mkv"),
+                            at("films/folder.jpg"),
+                            at("films"),
+                            at("films/"),
+                            at("films\\..\\outside\\a.jpg"),
+                            QStringLiteral("..\\outside\\a.jpg"),
+                            QStringLiteral("../outside/a.jpg"),
+                            QStringLiteral("/etc/passwd"),
+                            QStringLiteral("/dev/zero")};
+    for (const QString &key : keys)
+        m_artwork.named << key;
+    for (const QString &key : keys)
+        EXPECT_FALSE(m_images.open(encoded(key)).file.isOpen()) << qPrintable(key);
 }
 
 TEST_F(ImageFilesTest, EverythingElseIsNotThere)

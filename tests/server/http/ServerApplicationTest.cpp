@@ -32,6 +32,7 @@ struct FakeParts final : IServerParts {
     ILibraryRoots &roots() override { return fakeRoots; }
     IVideoLibrary &videos() override { return fakeVideos; }
     IMusicLibrary &music() override { return fakeMusic; }
+    const IArtworkKeys &artwork() const override { return fakeArtwork; }
     IServerTasks &tasks() override { return fakeTasks; }
     IMetadataService &metadata() override { return fakeMetadata; }
 
@@ -40,6 +41,7 @@ struct FakeParts final : IServerParts {
     FakeRoots fakeRoots;
     FakeVideos fakeVideos;
     FakeMusic fakeMusic;
+    FakeArtwork fakeArtwork;
     FakeTasks fakeTasks;
     FakeMetadata fakeMetadata;
 };

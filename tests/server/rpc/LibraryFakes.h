@@ -4,6 +4,7 @@
 
 #include "metadata/IMetadataService.h"
 #include "rpc/IServerTasks.h"
+#include "store/IArtworkKeys.h"
 #include "store/ILibraryRoots.h"
 #include "store/IMusicLibrary.h"
 #include "store/IVideoLibrary.h"
@@ -12,6 +13,12 @@
 
 #include <atomic>
 #include <stdexcept>
+
+struct FakeArtwork final : IArtworkKeys {
+    QStringList named;
+
+    bool isNamed(const QString &key) const override { return named.contains(key); }
+};
 
 struct FakeRoots final : ILibraryRoots {
     QVector<RootFolder> stored;

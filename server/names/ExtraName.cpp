@@ -45,6 +45,16 @@ Certainty ofFolder(const QString &name)
     return Certainty::None;
 }
 
+bool isPictureFolder(const QString &name)
+{
+    return isBackdropFolder(name) || NameText::comparable(name) == QLatin1String("extrathumbs");
+}
+
+bool isBackdropFolder(const QString &name)
+{
+    return NameText::comparable(name) == QLatin1String("extrafanart");
+}
+
 File ofFile(const QString &name)
 {
     const QString folded = NameText::folded(name.trimmed());

@@ -11,6 +11,10 @@ namespace ExtraName {
 enum class Certainty { None, BesideFilm, Sure };
 
 [[nodiscard]] Certainty ofFolder(const QString &name);
+// "extrafanart", "extrathumbs": further pictures of what lies beside it, whatever else stands in it.
+[[nodiscard]] bool isPictureFolder(const QString &name);
+// The one of them that holds backdrops.
+[[nodiscard]] bool isBackdropFolder(const QString &name);
 
 struct File {
     Certainty certainty{Certainty::None};

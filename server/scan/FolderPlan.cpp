@@ -1,6 +1,7 @@
 #include "FolderPlan.h"
 
 #include "names/DiscStructure.h"
+#include "names/ExtraName.h"
 
 #include <QCryptographicHash>
 
@@ -25,7 +26,9 @@ bool startsWithAny(const QString &name, const char *const (&begins)[Count])
 
 bool tellsAboutBelow(const FolderEntry &entry)
 {
-    return !entry.isFolder && startsWithAny(entry.name, sidecarBegins)
+    if (entry.isFolder)
+        return ExtraName::isBackdropFolder(entry.name);
+    return startsWithAny(entry.name, sidecarBegins)
            && std::any_of(std::begin(sidecarSuffixes), std::end(sidecarSuffixes), [&](const char *suffix) {
                   return entry.name.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
               });
@@ -34,9 +37,10 @@ bool tellsAboutBelow(const FolderEntry &entry)
 void add(QCryptographicHash &hash, const FolderEntry &entry)
 {
     hash.addData(reinterpret_cast<const char *>(entry.name.utf16()), entry.name.size() * int(sizeof(ushort)));
-    // The time of a folder says only that something in it changed, which is told by its own fingerprint; a
-    // disc folder has none.
-    const bool counts = !entry.isFolder || DiscStructure::isStructure(entry.name);
+    // The time of a folder says only that something in it changed, which is told by its own fingerprint. A
+    // disc folder has none, and what lies in a folder of pictures belongs to what lies beside it.
+    const bool counts =
+        !entry.isFolder || DiscStructure::isStructure(entry.name) || ExtraName::isBackdropFolder(entry.name);
     const qint64 numbers[] = {-1, entry.isFolder ? 1 : 0, entry.stamp.size,
                               counts ? entry.stamp.modifiedMs : 0};
     hash.addData(reinterpret_cast<const char *>(numbers), int(sizeof numbers));

@@ -3,6 +3,7 @@
 #include "CueSongs.h"
 #include "FolderPaths.h"
 
+#include "names/ExtraName.h"
 #include "names/MediaSuffix.h"
 #include "sidecars/ArtworkFiles.h"
 
@@ -38,6 +39,15 @@ QHash<QString, ScannedSong> byPath(const QVector<ScannedSong> &songs)
     return result;
 }
 
+bool isAmongPictures(const WalkedFolder &folder)
+{
+    for (const WalkedFolder *at = &folder; at->parent; at = at->parent.get()) {
+        if (ExtraName::isPictureFolder(at->path.mid(at->path.lastIndexOf(QLatin1Char('/')) + 1)))
+            return true;
+    }
+    return false;
+}
+
 void takeTags(ScannedSong &song, const SoundTags &tags)
 {
     song.title = tags.title;
@@ -70,6 +80,8 @@ void joinCompilations(QVector<ScannedSong> &songs)
 void MusicFolder::prepare(FolderWork &work, const StoredFolder &stored) const
 {
     const WalkedFolder &folder = *work.folder;
+    if (isAmongPictures(folder))
+        return;
     const QString cover = ArtworkFiles(folder.path, folder.entries).albumCover();
     const QHash<QString, ScannedSong> known = byPath(stored.songs);
     const QSet<QString> divided = CueSongs::add(work);

@@ -1,5 +1,7 @@
 #include "ArtworkFiles.h"
 
+#include "FolderPath.h"
+#include "names/ExtraName.h"
 #include "names/MediaSuffix.h"
 
 namespace {
@@ -42,10 +44,14 @@ QStringList prefixed(const QString &prefix, const QStringList &names)
 
 } // namespace
 
-ArtworkFiles::ArtworkFiles(const QString &folder, const QVector<FolderEntry> &entries)
+ArtworkFiles::ArtworkFiles(const QString &folder, const QVector<FolderEntry> &entries,
+                           const IFolderFiles *files)
+    : m_files(files)
 {
     const QString base = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
     for (const FolderEntry &entry : entries) {
+        if (entry.isFolder && ExtraName::isBackdropFolder(entry.name))
+            m_backdropFolder = base + entry.name;
         const int rank = entry.isFolder ? -1 : MediaSuffix::imageRank(entry.name);
         if (rank < 0)
             continue;
@@ -81,9 +87,26 @@ QString ArtworkFiles::backdrop(const QString &prefix) const
     return {};
 }
 
+// Its pictures have any names; the first by name is shown, so that each scan finds the same.
+QString ArtworkFiles::extraBackdrop() const
+{
+    if (!m_files || m_backdropFolder.isEmpty())
+        return {};
+    QString name;
+    for (const FolderEntry &entry : m_files->list(m_backdropFolder)) {
+        if (!entry.isFolder && MediaSuffix::imageRank(entry.name) >= 0
+            && (name.isEmpty() || entry.name < name))
+            name = entry.name;
+    }
+    return name.isEmpty() ? QString() : FolderPath::join(m_backdropFolder, name);
+}
+
 Artwork ArtworkFiles::ofFolder() const
 {
-    return {first(filmPosters() + plainPosters()), backdrop(QString()), first(thumbs())};
+    QString behind = backdrop(QString());
+    if (behind.isEmpty())
+        behind = extraBackdrop();
+    return {first(filmPosters() + plainPosters()), behind, first(thumbs())};
 }
 
 Artwork ArtworkFiles::ofFile(const QString &name) const

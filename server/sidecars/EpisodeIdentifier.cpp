@@ -259,7 +259,7 @@ ScannedShow EpisodeIdentifier::describeShow(const QString &key, const Found &fou
         Description byName;
         byName.identities = name.identities;
         DescriptionMerge::fill(show.description, byName);
-        DescriptionMerge::fillArtwork(show.description, ArtworkFiles(key, entries).ofFolder());
+        DescriptionMerge::fillArtwork(show.description, ArtworkFiles(key, entries, &m_files).ofFolder());
     }
     Description byName;
     byName.title = titleOf(found);

@@ -23,7 +23,7 @@ IdentifiedFolder Identifier::identify(const FolderListing &listing) const
     QVector<VideoCandidate> candidates = CandidateCollector(m_files).collect(listing);
     if (candidates.isEmpty())
         return result;
-    const ArtworkFiles artwork(listing.path, listing.entries);
+    const ArtworkFiles artwork(listing.path, listing.entries, &m_files);
     if (!listing.adult)
         EpisodeIdentifier(m_files, listing, artwork).take(candidates, result);
     FilmIdentifier(m_files, listing, artwork).take(candidates, result);

@@ -188,9 +188,12 @@ std::shared_ptr<WalkedFolder> folder(const QString &path, const QVector<FolderEn
 
 TEST(FolderPlanTest, SeesEachChangeThatCountsAndNoOther)
 {
-    const QVector<FolderEntry> above{{"Film.mkv", {1, 1}, false}, {"Season 1", {0, 1}, true}};
-    const QVector<FolderEntry> inside{
-        {"1.mkv", {10, 10}, false}, {"VIDEO_TS", {0, 5}, true}, {"sub", {0, 5}, true}};
+    const QVector<FolderEntry> above{
+        {"Film.mkv", {1, 1}, false}, {"Season 1", {0, 1}, true}, {"ExtraFanArt", {0, 1}, true}};
+    const QVector<FolderEntry> inside{{"1.mkv", {10, 10}, false},
+                                      {"VIDEO_TS", {0, 5}, true},
+                                      {"sub", {0, 5}, true},
+                                      {"extrafanart", {0, 5}, true}};
     const QByteArray base = FolderPlan::fingerprint(*folder("/r/s", inside, folder("/r", above)));
     const struct {
         const char *what;
@@ -199,16 +202,30 @@ TEST(FolderPlanTest, SeesEachChangeThatCountsAndNoOther)
         bool changes;
     } rows[] = {
         {"nothing", above, inside, false},
-        {"size", above, {{"1.mkv", {11, 10}, false}, inside[1], inside[2]}, true},
-        {"time", above, {{"1.mkv", {10, 11}, false}, inside[1], inside[2]}, true},
-        {"name", above, {{"2.mkv", {10, 10}, false}, inside[1], inside[2]}, true},
-        {"time of a disc folder", above, {inside[0], {"VIDEO_TS", {0, 6}, true}, inside[2]}, true},
-        {"time of a folder", above, {inside[0], inside[1], {"sub", {0, 6}, true}}, false},
-        {"folder gone", above, {inside[0], inside[1]}, true},
-        {"sidecar above", {above[0], above[1], {"tvshow.nfo", {1, 1}, false}}, inside, true},
-        {"poster above", {above[0], above[1], {"Season01-Poster.JPG", {1, 1}, false}}, inside, true},
-        {"film above", {above[0], above[1], {"Other.mkv", {1, 1}, false}}, inside, false},
-        {"poster of a film above", {above[0], above[1], {"Film-poster.jpg", {1, 1}, false}}, inside, false},
+        {"size", above, {{"1.mkv", {11, 10}, false}, inside[1], inside[2], inside[3]}, true},
+        {"time", above, {{"1.mkv", {10, 11}, false}, inside[1], inside[2], inside[3]}, true},
+        {"name", above, {{"2.mkv", {10, 10}, false}, inside[1], inside[2], inside[3]}, true},
+        {"time of a disc folder", above, {inside[0], {"VIDEO_TS", {0, 6}, true}, inside[2], inside[3]}, true},
+        {"time of a folder", above, {inside[0], inside[1], {"sub", {0, 6}, true}, inside[3]}, false},
+        {"time of a folder of pictures",
+         above,
+         {inside[0], inside[1], inside[2], {"extrafanart", {0, 6}, true}},
+         true},
+        {"time of a folder of pictures above",
+         {above[0], above[1], {"ExtraFanArt", {0, 2}, true}},
+         inside,
+         true},
+        {"folder gone", above, {inside[0], inside[1], inside[3]}, true},
+        {"sidecar above", {above[0], above[1], above[2], {"tvshow.nfo", {1, 1}, false}}, inside, true},
+        {"poster above",
+         {above[0], above[1], above[2], {"Season01-Poster.JPG", {1, 1}, false}},
+         inside,
+         true},
+        {"film above", {above[0], above[1], above[2], {"Other.mkv", {1, 1}, false}}, inside, false},
+        {"poster of a film above",
+         {above[0], above[1], above[2], {"Film-poster.jpg", {1, 1}, false}},
+         inside,
+         false},
     };
     for (const auto &row : rows) {
         const QByteArray now = FolderPlan::fingerprint(*folder("/r/s", row.inside, folder("/r", row.above)));

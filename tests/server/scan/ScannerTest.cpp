@@ -47,6 +47,28 @@ TEST_F(ScannerTest, StoresTheSongsOfATree)
     EXPECT_EQ(m_store.finishedScans(), 1);
 }
 
+TEST_F(ScannerTest, FoldersOfFurtherPicturesHoldNoSongs)
+{
+    m_bench.sound("Band/Album/one.mp3");
+    m_bench.sound("Band/extrafanart/two.mp3");
+    m_bench.sound("Band/Album/ExtraThumbs/deep/three.mp3");
+    m_bench.scanMusic();
+    ASSERT_EQ(m_store.songs().size(), 1);
+    EXPECT_EQ(m_store.songs().first().path, m_bench.path("Band/Album/one.mp3"));
+}
+
+TEST_F(ScannerTest, ANewPictureAmongTheFurtherOnesOfAFilmIsSeen)
+{
+    SampleClips::write(m_bench.path("Film (2010)/Film (2010).iso"), "disc");
+    SampleClips::write(m_bench.path("Film (2010)/extrafanart/b.jpg"), "picture");
+    m_bench.scanVideo();
+    ASSERT_EQ(m_store.videos().size(), 1);
+    EXPECT_EQ(m_store.videos().first().description.backdrop, m_bench.path("Film (2010)/extrafanart/b.jpg"));
+    SampleClips::write(m_bench.path("Film (2010)/extrafanart/a.jpg"), "picture");
+    m_bench.scanVideo();
+    EXPECT_EQ(m_store.videos().first().description.backdrop, m_bench.path("Film (2010)/extrafanart/a.jpg"));
+}
+
 TEST_F(ScannerTest, OpensNothingWhereNothingChanged)
 {
     m_bench.sound("A/one.mp3");

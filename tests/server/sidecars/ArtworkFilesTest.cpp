@@ -1,3 +1,5 @@
+#include "MemoryFolders.h"
+
 #include "sidecars/ArtworkFiles.h"
 
 #include <gtest/gtest.h>
@@ -72,6 +74,32 @@ TEST(ArtworkFilesTest, SeasonsHavePicturesInTheirShowsFolder)
     EXPECT_EQ(files.ofSeason(2).poster, "/f/season2.jpg");
     EXPECT_EQ(files.ofSeason(0).poster, "/f/season-specials-poster.jpg");
     EXPECT_EQ(files.ofSeason(7).poster, "/f/season-all-poster.jpg");
+}
+
+TEST(ArtworkFilesTest, AFolderOfFurtherPicturesGivesTheBackdropWhereNothingElseDoes)
+{
+    const struct {
+        QStringList files;
+        const char *backdrop;
+    } rows[] = {
+        {{"extrafanart/fanart2.jpg", "extrafanart/fanart1.jpg"}, "/f/extrafanart/fanart1.jpg"},
+        {{"ExtraFanArt/any name.png", "ExtraFanArt/a.txt"}, "/f/ExtraFanArt/any name.png"},
+        {{"extrafanart/a.jpg", "backdrop-3.jpg"}, "/f/backdrop-3.jpg"},
+        {{"extrafanart/a.mkv", "extrafanart/b.mp3"}, ""},
+        {{"extrafanart/"}, ""},
+        {{"extrafanart/deep/a.jpg"}, ""},
+        {{"extrafanart.jpg"}, ""},
+        {{"extrathumbs/thumb1.jpg"}, ""},
+        {{"art work/a.jpg"}, ""},
+    };
+    for (const auto &row : rows) {
+        MemoryFolders folders;
+        for (const QString &file : row.files)
+            folders.add("/f/" + file);
+        EXPECT_EQ(ArtworkFiles("/f", folders.list("/f"), &folders).ofFolder().backdrop, row.backdrop)
+            << qPrintable(row.files.first());
+        EXPECT_EQ(ArtworkFiles("/f", folders.list("/f"), &folders).ofFolder().poster, "");
+    }
 }
 
 TEST(ArtworkFilesTest, AlbumsAndArtists)

@@ -161,4 +161,15 @@ TEST(EpisodeTest, WhatHasNoNumberInASeasonIsAVideo)
     EXPECT_EQ(videos.at(1).kind, Kind::Video);
 }
 
+TEST(EpisodeTest, AShowTakesItsBackdropFromItsFurtherPictures)
+{
+    MemoryFolders folders;
+    folders.add("/lib/Show (2010)/Season 01/Show S01E01.mkv");
+    folders.add("/lib/Show (2010)/extrafanart/b.jpg");
+    folders.add("/lib/Show (2010)/extrafanart/a.jpg");
+    const IdentifiedFolder found = folders.identify("/lib/Show (2010)/Season 01");
+    ASSERT_EQ(found.shows.size(), 1);
+    EXPECT_EQ(found.shows.first().description.backdrop, "/lib/Show (2010)/extrafanart/a.jpg");
+}
+
 } // namespace

@@ -123,6 +123,26 @@ TEST(FilmTest, ExtrasAndSamplesAreLeftOut)
         EXPECT_TRUE(folders.identify(QStringLiteral("/lib/Film (2010)/") + name).videos.isEmpty()) << name;
 }
 
+TEST(FilmTest, FoldersOfFurtherPicturesHoldNoVideosWhereverTheyLie)
+{
+    MemoryFolders folders;
+    folders.add("/lib/Film (2010)/Film.mkv");
+    const QStringList pictures{"/lib/Film (2010)/extrafanart", "/lib/Film (2010)/extrathumbs",
+                               "/lib/ExtraFanart", "/lib/Drama/extrathumbs", "/lib/extrafanart/deep"};
+    for (const QString &folder : pictures) {
+        folders.add(folder + "/fanart1.jpg");
+        folders.add(folder + "/Other (2011).mkv");
+        folders.add(folder + "/Show S01E02.mkv");
+    }
+    for (const QString &folder : pictures) {
+        EXPECT_TRUE(folders.identify(folder).videos.isEmpty()) << qPrintable(folder);
+        EXPECT_TRUE(folders.identify(folder, "/lib", true).videos.isEmpty()) << qPrintable(folder);
+    }
+    const QVector<ScannedVideo> videos = folders.identify("/lib/Film (2010)").videos;
+    ASSERT_EQ(videos.size(), 1);
+    EXPECT_EQ(videos.first().description.backdrop, "/lib/Film (2010)/extrafanart/fanart1.jpg");
+}
+
 TEST(FilmTest, FoldersOfOnesOwnNamedLikeExtrasAreKept)
 {
     MemoryFolders folders;

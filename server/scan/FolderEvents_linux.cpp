@@ -55,9 +55,23 @@ FolderEvents::Outcome FolderEvents::watch(const QString &folder)
     std::lock_guard lock(m_state->mutex);
     const int watch = ::inotify_add_watch(m_state->handle, folder.toUtf8().constData(), Events);
     if (watch < 0)
-        return errno == ENOSPC || errno == ENOMEM ? Outcome::LimitReached : Outcome::Failed;
+        return outcomeOf(errno);
     m_state->folders.insert(watch, folder);
     return Outcome::Watched;
+}
+
+FolderEvents::Outcome FolderEvents::outcomeOf(int systemError)
+{
+    switch (systemError) {
+    case ENOSPC:
+    case ENOMEM:
+        return Outcome::LimitReached;
+    case ENOENT:
+    case ENOTDIR:
+        return Outcome::Gone;
+    default:
+        return Outcome::Failed;
+    }
 }
 
 void FolderEvents::forget(const QString &folder)

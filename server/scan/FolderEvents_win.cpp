@@ -62,7 +62,7 @@ FolderEvents::Outcome FolderEvents::watch(const QString &folder)
     const std::wstring name = QDir::toNativeSeparators(folder).toStdWString();
     const HANDLE handle = FindFirstChangeNotificationW(name.c_str(), TRUE, Events);
     if (handle == INVALID_HANDLE_VALUE)
-        return Outcome::Failed;
+        return outcomeOf(int(GetLastError()));
     m_state->trees.insert(folder, {handle, nullptr});
     // A notifier belongs to the thread of the object.
     QMetaObject::invokeMethod(
@@ -80,6 +80,22 @@ FolderEvents::Outcome FolderEvents::watch(const QString &folder)
         },
         Qt::QueuedConnection);
     return Outcome::Watched;
+}
+
+FolderEvents::Outcome FolderEvents::outcomeOf(int systemError)
+{
+    switch (DWORD(systemError)) {
+    case ERROR_NOT_ENOUGH_MEMORY:
+    case ERROR_NO_SYSTEM_RESOURCES:
+    case ERROR_TOO_MANY_OPEN_FILES:
+        return Outcome::LimitReached;
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_DIRECTORY:
+        return Outcome::Gone;
+    default:
+        return Outcome::Failed;
+    }
 }
 
 void FolderEvents::forget(const QString &folder)

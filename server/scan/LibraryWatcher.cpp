@@ -5,17 +5,16 @@
 
 #include <algorithm>
 
-LibraryWatcher::LibraryWatcher(Intervals intervals, QObject *parent)
-    : QObject(parent)
-    , m_intervals(intervals)
-    , m_events(this)
+LibraryWatcher::LibraryWatcher(Intervals intervals, std::unique_ptr<FolderEvents> events)
+    : m_intervals(intervals)
+    , m_events(std::move(events))
 {
     m_quiet.setSingleShot(true);
     m_periodic.setInterval(m_intervals.periodicMs);
     connect(&m_quiet, &QTimer::timeout, this, &LibraryWatcher::reportQuiet);
     connect(&m_periodic, &QTimer::timeout, this, &LibraryWatcher::lookAgain);
-    connect(&m_events, &FolderEvents::changed, this, &LibraryWatcher::noteChange);
-    connect(&m_events, &FolderEvents::overflowed, this, &LibraryWatcher::noteAll);
+    connect(m_events.get(), &FolderEvents::changed, this, &LibraryWatcher::noteChange);
+    connect(m_events.get(), &FolderEvents::overflowed, this, &LibraryWatcher::noteAll);
 }
 
 void LibraryWatcher::setRoots(const QVector<RootFolder> &roots)
@@ -26,7 +25,7 @@ void LibraryWatcher::setRoots(const QVector<RootFolder> &roots)
     for (auto root = m_roots.cbegin(); root != m_roots.cend(); ++root) {
         if (next.value(root.key()) == root.value())
             continue;
-        m_events.forget(root.value());
+        m_events->forget(root.value());
         m_waiting.remove(root.key());
         m_offline.remove(root.key());
     }
@@ -36,10 +35,20 @@ void LibraryWatcher::setRoots(const QVector<RootFolder> &roots)
 
 void LibraryWatcher::watch(const QString &folder)
 {
-    if (m_events.watch(folder) != FolderEvents::Outcome::LimitReached || m_limitReached.exchange(true))
+    const FolderEvents::Outcome outcome = m_events->watch(folder);
+    if (outcome == FolderEvents::Outcome::Watched || outcome == FolderEvents::Outcome::Gone)
         return;
-    qWarning() << "[watch] the system watches no more folders; the library is scanned periodically instead";
-    QMetaObject::invokeMethod(this, &LibraryWatcher::updatePeriodic, Qt::QueuedConnection);
+    // One line of each kind: a library beyond the limit has thousands of such folders.
+    if (outcome == FolderEvents::Outcome::LimitReached && !m_hasToldLimit.exchange(true)) {
+        qWarning() << "[watch] the system watches no more folders; the library is scanned periodically "
+                      "instead";
+    } else if (outcome == FolderEvents::Outcome::Failed && !m_hasToldFailure.exchange(true)) {
+        qInfo().noquote()
+            << "[watch] a folder cannot be watched; the library is scanned periodically instead:" << folder
+            << "(others like it are not named)";
+    }
+    if (!m_isBlind.exchange(true))
+        QMetaObject::invokeMethod(this, &LibraryWatcher::updatePeriodic, Qt::QueuedConnection);
 }
 
 void LibraryWatcher::setOnline(int pathId, bool online)
@@ -53,7 +62,7 @@ void LibraryWatcher::setOnline(int pathId, bool online)
 
 void LibraryWatcher::updatePeriodic()
 {
-    if (!m_limitReached && m_offline.isEmpty())
+    if (!m_isBlind && m_offline.isEmpty())
         m_periodic.stop();
     else if (!m_periodic.isActive())
         m_periodic.start();
@@ -61,12 +70,14 @@ void LibraryWatcher::updatePeriodic()
 
 void LibraryWatcher::lookAgain()
 {
-    if (m_limitReached) {
+    // The scan that follows tries to watch every folder again, and says so here where it cannot.
+    if (m_isBlind.exchange(false)) {
         noteAll();
-        return;
+    } else {
+        for (const int pathId : qAsConst(m_offline))
+            noteRoot(pathId);
     }
-    for (const int pathId : qAsConst(m_offline))
-        noteRoot(pathId);
+    updatePeriodic();
 }
 
 void LibraryWatcher::noteChange(const QString &folder)

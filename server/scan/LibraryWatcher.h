@@ -2,8 +2,8 @@
 //
 // Owns the watch and its timers. Folders come from the scan, which watches each before it lists it, so that
 // nothing can change unseen in between; all else belongs to the thread of the object. Where the system
-// watches no more folders, and for library folders that cannot be reached, everything is scanned again from
-// time to time.
+// watches no more folders, or not all of them, everything is scanned again from time to time until a scan
+// could watch all; so are library folders that cannot be reached.
 #pragma once
 
 #include "FolderEvents.h"
@@ -17,6 +17,7 @@
 #include <QVector>
 
 #include <atomic>
+#include <memory>
 
 class LibraryWatcher final : public QObject {
     Q_OBJECT
@@ -28,7 +29,8 @@ public:
         int periodicMs{15 * 60 * 1000};
     };
 
-    explicit LibraryWatcher(Intervals intervals, QObject *parent = nullptr);
+    explicit LibraryWatcher(Intervals intervals,
+                            std::unique_ptr<FolderEvents> events = std::make_unique<FolderEvents>());
     LibraryWatcher()
         : LibraryWatcher(Intervals())
     {
@@ -39,7 +41,7 @@ public:
     void watch(const QString &folder);
     // An unreachable folder is looked for periodically.
     void setOnline(int pathId, bool online);
-    [[nodiscard]] int watchedFolders() const { return m_events.count(); }
+    [[nodiscard]] int watchedFolders() const { return m_events->count(); }
 
 signals:
     void rootChanged(int pathId);
@@ -58,11 +60,14 @@ private:
     void lookAgain();
 
     Intervals m_intervals;
-    FolderEvents m_events;
+    std::unique_ptr<FolderEvents> m_events;
     QHash<int, QString> m_roots;
     QSet<int> m_offline;
     QHash<int, Waiting> m_waiting;
     QTimer m_quiet;
     QTimer m_periodic;
-    std::atomic<bool> m_limitReached{false};
+    // Some folder is not watched, as far as the scans since the last look have found.
+    std::atomic<bool> m_isBlind{false};
+    std::atomic<bool> m_hasToldLimit{false};
+    std::atomic<bool> m_hasToldFailure{false};
 };

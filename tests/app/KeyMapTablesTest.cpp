@@ -58,6 +58,14 @@ TEST(KeyMapTables, AMapOfAnEarlierVersionGainsOperation37EvenWhenItsKeyIsTaken)
     EXPECT_EQ(completed(stored, Mode::Tv).size(), 1 + mustHaveTvKeys().size());
 }
 
+TEST(KeyMapTables, OperationsThatNobodyKnowsTakeNoKey)
+{
+    const KeyMap map =
+        completed({{-3, Qt::Key_Space}, {KeyOperate_PlayPause, Qt::Key_Space}, {41, Qt::Key_X}}, Mode::Pc);
+    EXPECT_EQ(operationOf(map, Qt::Key_Space), int(KeyOperate_PlayPause));
+    EXPECT_EQ(operationOf(map, Qt::Key_X), -1);
+}
+
 TEST(KeyMapTables, AnUnboundMustHaveOperationStaysUnbound)
 {
     EXPECT_EQ(completed({{KeyOperate_ForwardStep, 0}}, Mode::Pc).value(KeyOperate_ForwardStep), 0);

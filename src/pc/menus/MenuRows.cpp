@@ -68,7 +68,7 @@ template<int Seconds>
 void seekBy(MenuHost &host, const QString &)
 {
     QPlayer &player = *host.player();
-    host.seek(int(qBound(0.0, player.currentTime() + Seconds, player.totalTime())));
+    host.seek(qRound(qBound(0.0, player.currentTime() + Seconds, player.totalTime())));
 }
 
 void cycleAudio(MenuHost &host, const QString &)
@@ -291,7 +291,7 @@ const MenuRow *MenuRows::find(const QString &key, QString *argument)
 const MenuRow *MenuRows::find(KeyOperateType operation)
 {
     for (const MenuRow &row : all()) {
-        if (row.keyOperation == operation)
+        if (row.keyOperation != MenuRow::NoKeyOperation && row.keyOperation == operation)
             return &row;
     }
     return nullptr;

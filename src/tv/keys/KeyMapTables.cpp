@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <iterator>
 
 namespace KeyMapTables {
@@ -87,6 +88,12 @@ constexpr KeyRow kRows[] = {
 QString translated(const char *text)
 {
     return QCoreApplication::translate("QApplication", text);
+}
+
+bool isOperation(int type)
+{
+    return std::any_of(std::begin(kRows), std::end(kRows),
+                       [type](const KeyRow &row) { return row.type == type; });
 }
 
 // The four names that are put together from parts.
@@ -185,6 +192,9 @@ KeyMap completed(KeyMap stored, Mode mode)
     const KeyMap defaults = defaultKeyMap(mode);
     if (stored.isEmpty())
         stored = defaults;
+    // It would take its key from an operation that there is.
+    for (auto it = stored.begin(); it != stored.end();)
+        it = isOperation(it.key()) ? std::next(it) : stored.erase(it);
     const QList<int> needed = mustHaveKeys(mode);
     for (int type : needed) {
         if (!stored.contains(type) && defaults.contains(type))

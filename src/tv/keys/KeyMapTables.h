@@ -32,7 +32,8 @@ enum class Mode { Pc, Tv };
 // The order of the settings table.
 [[nodiscard]] QList<int> settingsOrder();
 
-// The stored map ready for use: the defaults when it is empty, else the must-have operations added.
+// The stored map ready for use: the defaults when it is empty, else the must-have operations added; without
+// those that nobody knows.
 [[nodiscard]] KeyMap completed(KeyMap stored, Mode mode);
 
 // One value for the keypad's keys and the main ones, and for Return and Enter.

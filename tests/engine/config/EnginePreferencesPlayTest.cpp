@@ -1,5 +1,6 @@
 // Stored preferences on the real engine: what is looked at is what libmpv has in the end, and what a grabbed
 // picture shows, never what was handed over.
+#include "play/OwnEngine.h"
 #include "play/TestClips.h"
 #include "support/Eventually.h"
 #include "support/TestLog.h"
@@ -7,8 +8,6 @@
 #include "core/ApplicationInfoManager.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
-#include "engine/EngineCore.h"
-#include "engine/PlayTool.h"
 #include "player/EnginePreferences.h"
 #include "player/QPlayer.h"
 
@@ -20,31 +19,6 @@
 
 namespace {
 
-// The engine of this program instead of a library's.
-class OwnEngine final : public IEngineLoader {
-public:
-    bool load() override { return true; }
-    QString errorText() const override { return {}; }
-    libvp::CreateVDPlayerFunction createFunction() const override { return create; }
-    libvp::ReleaseVDPlayerFunction releaseFunction() const override { return release; }
-    void unload() override {}
-
-    static EngineCore *core() { return made().get(); }
-
-private:
-    static std::unique_ptr<EngineCore> &made()
-    {
-        static std::unique_ptr<EngineCore> core;
-        return core;
-    }
-    static libvp::IVDEngineCore *create(libvp::IVDPlayerConfig *config, libvp::IVDOrbixCallback *callback)
-    {
-        made() = std::make_unique<EngineCore>(config, callback);
-        return made().get();
-    }
-    static void release(libvp::IVDEngineCore *) { made().reset(); }
-};
-
 class EnginePreferencesPlay : public testing::Test {
 protected:
     void SetUp() override
@@ -55,7 +29,7 @@ protected:
         m_widget.resize(640, 360);
         m_player->setVideoParent(&m_widget, 1);
         ASSERT_TRUE(m_player->ensureTool());
-        m_tool = static_cast<PlayTool *>(OwnEngine::core()->createPlayTool(0, nullptr, nullptr));
+        m_tool = OwnEngine::tool();
         ASSERT_NE(m_tool, nullptr);
     }
     void TearDown() override { m_player.reset(); }

@@ -96,17 +96,23 @@ QString folder()
     return QStringLiteral(QUORIN_CLIP_DIR);
 }
 
-void makeTracks(const QString &target)
+// chapter: length of the first two of three.
+void makeTracks(const QString &target, int seconds, int chapter)
 {
-    const QString chapters = folder() + "/chapters.txt";
-    TestClips::write(
-        chapters.toStdString(),
-        ";FFMETADATA1\n[CHAPTER]\nTIMEBASE=1/1\nSTART=0\nEND=3\ntitle=One\n[CHAPTER]\nTIMEBASE=1/1\n"
-        "START=3\nEND=6\ntitle=Two\n[CHAPTER]\nTIMEBASE=1/1\nSTART=6\nEND=10\ntitle=Three\n");
+    const QString chapters = folder() + QStringLiteral("/chapters-%1.txt").arg(seconds);
+    QString marks = QStringLiteral(";FFMETADATA1\n");
+    const char *const titles[] = {"One", "Two", "Three"};
+    for (int i = 0; i < 3; ++i) {
+        marks += QStringLiteral("[CHAPTER]\nTIMEBASE=1/1\nSTART=%1\nEND=%2\ntitle=%3\n")
+                     .arg(i * chapter)
+                     .arg(i < 2 ? (i + 1) * chapter : seconds)
+                     .arg(QLatin1String(titles[i]));
+    }
+    TestClips::write(chapters.toStdString(), marks.toStdString());
     const QString text = QString::fromStdString(TestClips::path("dark.srt"));
-    QStringList arguments = video(moving.arg(10));
+    QStringList arguments = video(moving.arg(seconds));
     for (const int frequency : {440, 660, 880})
-        arguments += sound(frequency, 10);
+        arguments += sound(frequency, seconds);
     for (int i = 0; i < 3; ++i)
         arguments += {"-i", text};
     arguments += {"-i", chapters, "-map_metadata", "7"};
@@ -123,7 +129,7 @@ void makeTracks(const QString &target)
         }
     }
     arguments += {"-disposition:a:0", "default", "-disposition:s", "0"};
-    runFfmpeg(arguments + QStringList{"-t", "10", target});
+    runFfmpeg(arguments + QStringList{"-t", QString::number(seconds), target});
 }
 
 void makeCover(const QString &target)
@@ -183,7 +189,9 @@ void make(const QString &name, const QString &target)
         }
     }
     if (name == "tracks.mkv")
-        makeTracks(target);
+        makeTracks(target, 10, 3);
+    else if (name == "film.mkv")
+        makeTracks(target, 120, 40);
     else if (name == "cover.mp3")
         makeCover(target);
     else if (name == "truncated.mp4")
@@ -207,7 +215,7 @@ std::string path(const std::string &name)
         return target.toStdString();
     if (clip == "truncated.mp4")
         (void)path("whole.mp4");
-    if (clip == "tracks.mkv")
+    if (clip == "tracks.mkv" || clip == "film.mkv")
         (void)path("dark.srt");
     if (clip == "album.cue")
         (void)path("song.flac");

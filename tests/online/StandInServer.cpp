@@ -1,5 +1,8 @@
 #include "StandInServer.h"
 
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -9,6 +12,30 @@ namespace {
 
 constexpr char kVersion = 5;
 constexpr char kLoginMethod = 2;
+
+class TlsServer final : public QTcpServer {
+public:
+    explicit TlsServer(const TlsIdentity &identity)
+        : m_key(identity.key, QSsl::Ec)
+        , m_certificate(identity.certificate)
+    {
+    }
+
+protected:
+    void incomingConnection(qintptr handle) override
+    {
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(handle);
+        socket->setPrivateKey(m_key);
+        socket->setLocalCertificate(m_certificate);
+        socket->startServerEncryption();
+        addPendingConnection(socket);
+    }
+
+private:
+    const QSslKey m_key;
+    const QSslCertificate m_certificate;
+};
 
 } // namespace
 
@@ -37,10 +64,20 @@ StandInReply httpReply(const QByteArray &status, const QByteArray &body, const Q
 }
 
 StandInServer::StandInServer(Handler handler, Speaks speaks)
+    : StandInServer(std::move(handler), speaks, new QTcpServer, QStringLiteral("http"))
+{
+}
+
+StandInServer::StandInServer(Handler handler, const TlsIdentity &identity)
+    : StandInServer(std::move(handler), Speaks::Http, new TlsServer(identity), QStringLiteral("https"))
+{
+}
+
+StandInServer::StandInServer(Handler handler, Speaks speaks, QTcpServer *server, const QString &scheme)
     : m_handler(std::move(handler))
     , m_speaks(speaks)
+    , m_scheme(scheme)
 {
-    auto *server = new QTcpServer;
     server->listen(QHostAddress::LocalHost);
     m_port = server->serverPort();
     server->moveToThread(&m_thread);
@@ -57,7 +94,7 @@ StandInServer::~StandInServer()
 
 QString StandInServer::url(const QString &path) const
 {
-    return QStringLiteral("http://127.0.0.1:%1%2").arg(m_port).arg(path);
+    return QStringLiteral("%1://127.0.0.1:%2%3").arg(m_scheme, QString::number(m_port), path);
 }
 
 QList<StandInRequest> StandInServer::requests() const

@@ -1,9 +1,12 @@
 // A server of the test's own on a free port of this machine, in a thread of its own.
 //
 // It reads a request, asks the test's handler for the bytes of the answer, writes them and closes or keeps
-// still. As a SOCKS5 proxy or an HTTP proxy it plays the server behind the proxy as well. The handler runs on
+// still. With an identity it speaks TLS. As a SOCKS5 proxy or an HTTP proxy it plays the server behind the
+// proxy as well. The handler runs on
 // the server's thread; what was asked is read from any.
 #pragma once
+
+#include "TlsIdentity.h"
 
 #include <QByteArray>
 #include <QList>
@@ -41,6 +44,7 @@ public:
     enum class Speaks { Http, Socks5 };
 
     explicit StandInServer(Handler handler, Speaks speaks = Speaks::Http);
+    StandInServer(Handler handler, const TlsIdentity &identity);
     ~StandInServer();
     StandInServer(const StandInServer &) = delete;
     StandInServer &operator=(const StandInServer &) = delete;
@@ -52,6 +56,8 @@ public:
     [[nodiscard]] QList<QByteArray> greetings() const;
 
 private:
+    StandInServer(Handler handler, Speaks speaks, QTcpServer *server, const QString &scheme);
+
     struct Talk;
     void accept(QTcpServer &server);
     void take(QTcpSocket &socket, Talk &talk);
@@ -61,6 +67,7 @@ private:
 
     Handler m_handler;
     Speaks m_speaks;
+    QString m_scheme;
     int m_port{0};
     mutable std::mutex m_mutex;
     QList<StandInRequest> m_requests;

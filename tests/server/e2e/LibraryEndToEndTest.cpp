@@ -3,6 +3,10 @@
 #include "ServerFixture.h"
 
 #include "library/LibraryFilters.h"
+#include "online/HttpHelpers.h"
+
+#include <QFile>
+#include <QUrl>
 
 using ExpectedRecords::expectSame;
 
@@ -333,4 +337,58 @@ TEST_F(LibraryEndToEndTest, TheListsFollowSortFilterAndPattern)
     EXPECT_EQ(requests.genres("movie").join('|').toStdString(), "Comedy|Drama");
     EXPECT_EQ(requests.countries("movie").join('|').toStdString(), "France|Japan");
     EXPECT_EQ(requests.years("movie").join('|').toStdString(), "2001|2002|2003|2004|2005|2006|2007|2008");
+}
+
+TEST_F(LibraryEndToEndTest, OnlyPicturesThatRecordsNameAreHandedOut)
+{
+    scanned(
+        [this] {
+            m_tree.makeFilms();
+            m_tree.makeMusic();
+            m_tree.picture("films/Alpha (2001)/private.png", 0xff0000);
+            m_tree.picture("elsewhere/secret.png", 0x00ff00);
+            ASSERT_TRUE(QFile::link(m_tree.full("elsewhere/secret.png"), m_tree.films() + "/link.png"));
+            ASSERT_TRUE(QFile::link(m_tree.full("elsewhere"), m_tree.films() + "/linked"));
+        },
+        m_tree.films(), Common);
+    ASSERT_TRUE(m_manager->addMusicPath(m_tree.music()));
+    scan();
+    loadAll();
+    const auto status = [this](const QByteArray &encodedKey) {
+        const QString url = QStringLiteral("http://127.0.0.1:%1/image/").arg(m_server.port());
+        return GetText(url + QString::fromLatin1(encodedKey), 15).httpStatus;
+    };
+    const auto encoded = [](const QString &key) { return key.toUtf8().toPercentEncoding(); };
+    int named = 0;
+    for (const QString &id : m_manager->videos().ids(VideoCache::Movies)) {
+        const MediaItem film = m_manager->videos().item(VideoCache::Movies, id);
+        for (const QString &key : {film.poster, film.backdrop}) {
+            if (key.isEmpty())
+                continue;
+            ++named;
+            EXPECT_EQ(status(encoded(key)), 200) << qPrintable(key);
+        }
+    }
+    for (const QString &id : m_manager->music().songs()) {
+        const QString key = m_manager->music().song(id).poster;
+        if (key.isEmpty())
+            continue;
+        ++named;
+        EXPECT_EQ(status(encoded(key)), 200) << qPrintable(key);
+    }
+    EXPECT_GE(named, 4);
+    const QString films = m_tree.films();
+    const QByteArray refused[] = {
+        encoded(films + "/Alpha (2001)/private.png"),
+        encoded(films + "/link.png"),
+        encoded(films + "/linked/secret.png"),
+        encoded(films + "/../elsewhere/secret.png"),
+        encoded(films + "/Alpha (2001)/../Alpha (2001)/poster.png"),
+        encoded(films) + "%5C..%5Celsewhere%5Csecret.png",
+        encoded(m_tree.full("elsewhere/secret.png")),
+        "..%2Flibrary.db",
+        "%2e%2e%2Fserver.log",
+    };
+    for (const QByteArray &key : refused)
+        EXPECT_EQ(status(key), 404) << key.constData();
 }

@@ -1,4 +1,4 @@
-// The places of the server's files, all below the one folder that it is started with.
+// The places of the server's files, all below the one folder that it works on.
 #pragma once
 
 #include <QString>
@@ -7,6 +7,9 @@ class DataFolder final {
 public:
     // Makes the folder and its subfolders where they are missing; isUsable() tells whether that worked.
     explicit DataFolder(const QString &path);
+
+    // Where the player keeps the library of this user, for a start that names no folder.
+    [[nodiscard]] static QString normalPath();
 
     [[nodiscard]] bool isUsable() const { return m_usable; }
     [[nodiscard]] QString path() const { return m_path; }

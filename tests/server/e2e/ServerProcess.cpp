@@ -18,13 +18,6 @@ namespace {
 constexpr int StartMs = 30000;
 constexpr int EndMs = 30000;
 
-int freePort()
-{
-    QTcpServer server;
-    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
-    return server.serverPort();
-}
-
 // Silently: the transport logs each refused connection.
 bool isListenedOn(int port)
 {
@@ -36,14 +29,19 @@ bool isListenedOn(int port)
 } // namespace
 
 ServerProcess::ServerProcess(const QString &dataFolder)
-    : m_dataFolder(dataFolder)
+    : ServerProcess(QProcessEnvironment::systemEnvironment(), dataFolder)
+{
+    m_process.setArguments({m_dataFolder});
+}
+
+ServerProcess::ServerProcess(const QProcessEnvironment &environment, const QString &expectedFolder)
+    : m_dataFolder(expectedFolder)
     , m_port(freePort())
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QUORIN_LIBRARY_PORT", QString::number(m_port));
-    m_process.setProcessEnvironment(environment);
+    QProcessEnvironment own = environment;
+    own.insert("QUORIN_LIBRARY_PORT", QString::number(m_port));
+    m_process.setProcessEnvironment(own);
     m_process.setProgram(QUORIN_SERVER);
-    m_process.setArguments({m_dataFolder});
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.setStandardInputFile(QProcess::nullDevice());
 }
@@ -51,6 +49,13 @@ ServerProcess::ServerProcess(const QString &dataFolder)
 ServerProcess::~ServerProcess()
 {
     kill();
+}
+
+int ServerProcess::freePort()
+{
+    QTcpServer server;
+    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+    return server.serverPort();
 }
 
 bool ServerProcess::start()

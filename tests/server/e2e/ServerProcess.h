@@ -7,9 +7,14 @@
 class ServerProcess final {
 public:
     explicit ServerProcess(const QString &dataFolder);
+    // Without a data folder, in an environment of its own: where it looks then.
+    ServerProcess(const QProcessEnvironment &environment, const QString &expectedFolder);
     ~ServerProcess();
     ServerProcess(const ServerProcess &) = delete;
     ServerProcess &operator=(const ServerProcess &) = delete;
+
+    // One that nothing listens on at this moment.
+    [[nodiscard]] static int freePort();
 
     // Starts the program and waits until it answers; false when it ends or keeps silent.
     [[nodiscard]] bool start();

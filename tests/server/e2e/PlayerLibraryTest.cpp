@@ -1,0 +1,103 @@
+// The player's program and the server that it starts by itself.
+#include "LibraryTree.h"
+#include "PlayerProcess.h"
+#include "ServerProcess.h"
+
+#include "core/ApplicationInfoManager.h"
+#include "library/HttpTransport.h"
+#include "library/JsonRpc.h"
+#include "library/MusicProtocol.h"
+#include "library/VideoProtocol.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr char Counts[] = "[library] 2 movies, 0 collections, 1 shows (2 episodes), 1 videos, 0 adult, "
+                          "2 songs, 1 albums, 1 artists, 1 genres, 0 playlists";
+
+class PlayerLibraryTest : public testing::Test {
+protected:
+    PlayerLibraryTest()
+    {
+        m_tree.clip("mine/Alpha (2001)/Alpha (2001).mkv");
+        m_tree.clip("mine/Beta (2002).mkv");
+        m_tree.clip("mine/Show/Season 01/Show S01E01.mkv");
+        m_tree.clip("mine/Show/Season 01/Show S01E02.mkv");
+        m_tree.clip("mine/Garden.mkv");
+        m_tree.sound("mine/Band/1.mp3", {"One", "Band", "First", {}, "Rock", 1999, 1, {}});
+        m_tree.sound("mine/Band/2.mp3", {"Two", "Band", "First", {}, "Rock", 1999, 2, {}});
+    }
+
+    // Runs until the player has loaded what the server has found.
+    void startPlayer()
+    {
+        ASSERT_TRUE(m_player.start({"--library", m_tree.full("mine")}));
+        ASSERT_TRUE(m_player.waitForLog(Counts));
+        m_server = m_player.serverId();
+        ASSERT_NE(m_server, 0);
+    }
+
+    // What another server finds in the folder that the player's has left.
+    static void expectRecordsIn(const QString &folder)
+    {
+        ServerProcess server(folder);
+        ASSERT_TRUE(server.start());
+        HttpTransport transport;
+        const JsonRpc rpc(transport, server.port());
+        const VideoProtocol videos(rpc);
+        const MusicProtocol music(rpc);
+        LibraryQuery all;
+        all.sortMethod = "title";
+        all.sortOrder = "ascending";
+        EXPECT_EQ(videos.total(VideoLists::row(LibraryRole::Movies), videos.libraryId().value_or(0), all), 2);
+        EXPECT_EQ(music.total(MusicLists::Songs, music.libraryId().value_or(0)), 2);
+        EXPECT_EQ(server.stop(), 0);
+        EXPECT_FALSE(server.log().contains("damaged")) << qPrintable(server.log());
+    }
+
+    LibraryTree m_tree;
+    PlayerProcess m_player;
+    qint64 m_server{0};
+};
+
+} // namespace
+
+TEST_F(PlayerLibraryTest, AStartedPlayerHasTheServerLookAtItsFolderAndCountsWhatItLoads)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlayer());
+    EXPECT_TRUE(m_player.log().contains("[Statistics] UserBehaviour, LibraryMovieCount: less than 10"));
+    EXPECT_EQ(m_player.stop(), 0);
+    EXPECT_TRUE(PlayerProcess::waitForEnd(m_server)) << "the server outlives its player";
+    expectRecordsIn(m_player.serverFolder());
+}
+
+TEST_F(PlayerLibraryTest, TheServerOfAPlayerThatIsKilledEndsByItselfAndLeavesItsDatabaseWhole)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlayer());
+    m_player.kill();
+    EXPECT_TRUE(PlayerProcess::waitForEnd(m_server)) << "the server outlives its player";
+    QFile log(m_player.serverFolder() + "/server.log");
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains("[server] has ended")) << "it ended, but not by itself";
+    log.close();
+    expectRecordsIn(m_player.serverFolder());
+}
+
+TEST(ServerStartTest, AServerThatIsGivenNoFolderTakesThatOfThePlayer)
+{
+    const QTemporaryDir home;
+    const QString folder =
+        home.filePath(QStringLiteral("data/%1/mediaServer").arg(ApplicationInfoManager::productName()));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", home.path());
+    environment.insert("XDG_DATA_HOME", home.filePath("data"));
+    ServerProcess server(environment, folder);
+    ASSERT_TRUE(server.start());
+    EXPECT_TRUE(QFile::exists(folder + "/library.db"));
+    EXPECT_EQ(server.stop(), 0);
+    EXPECT_TRUE(server.log().contains("[server] has ended"));
+}

@@ -7,10 +7,14 @@
 #include "library/HttpTransport.h"
 #include "library/JsonRpc.h"
 #include "library/MusicProtocol.h"
+#include "library/ServerProcesses.h"
+#include "library/ServerStarter.h"
 #include "library/VideoProtocol.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -64,6 +68,26 @@ protected:
     qint64 m_server{0};
 };
 
+// A variable of this process, and of those that it starts, for as long as the object lives.
+class Variable final {
+public:
+    Variable(const char *name, const QByteArray &value)
+        : m_name(name)
+        , m_before(qgetenv(name))
+        , m_wasSet(qEnvironmentVariableIsSet(name))
+    {
+        qputenv(name, value);
+    }
+    ~Variable() { m_wasSet ? qputenv(m_name, m_before) : qunsetenv(m_name); }
+    Variable(const Variable &) = delete;
+    Variable &operator=(const Variable &) = delete;
+
+private:
+    const char *m_name;
+    const QByteArray m_before;
+    const bool m_wasSet;
+};
+
 } // namespace
 
 TEST_F(PlayerLibraryTest, AStartedPlayerHasTheServerLookAtItsFolderAndCountsWhatItLoads)
@@ -100,4 +124,24 @@ TEST(ServerStartTest, AServerThatIsGivenNoFolderTakesThatOfThePlayer)
     EXPECT_TRUE(QFile::exists(folder + "/library.db"));
     EXPECT_EQ(server.stop(), 0);
     EXPECT_TRUE(server.log().contains("[server] has ended"));
+}
+
+TEST(ServerStartTest, AServerThatIsStartedByTheSystemStaysAndAnswers)
+{
+    const QTemporaryDir home;
+    const QTemporaryDir programs(QFileInfo(QStringLiteral(QUORIN_SERVER)).path() + "/server-XXXXXX");
+    const QString program = PlayerProcess::linked(QStringLiteral(QUORIN_SERVER), programs);
+    const int port = ServerProcess::freePort();
+    const Variable data("XDG_DATA_HOME", home.path().toUtf8());
+    const Variable number("QUORIN_LIBRARY_PORT", QByteArray::number(port));
+    ServerStarter starter;
+    ASSERT_TRUE(starter.startPlain(program));
+    HttpTransport transport;
+    const JsonRpc rpc(transport, port);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return VideoProtocol(rpc).libraryId().has_value(); }, 30000));
+    EXPECT_TRUE(
+        QFile::exists(home.filePath(ApplicationInfoManager::productName() + "/mediaServer/library.db")));
+    // Whoever started it is gone since, and it is there to be ended.
+    EXPECT_EQ(ServerProcesses::killAll(program), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ServerProcesses::killAll(program) == 0; }, 30000));
 }

@@ -47,11 +47,11 @@ PlayerProcess::PlayerProcess()
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardInputFile(QProcess::nullDevice());
-    m_server = linked(QStringLiteral(QUORIN_SERVER));
-    m_process.setProgram(linked(QStringLiteral(QUORIN_PLAYER)));
+    m_server = linked(QStringLiteral(QUORIN_SERVER), m_programs);
+    m_process.setProgram(linked(QStringLiteral(QUORIN_PLAYER), m_programs));
     const QDir built = QFileInfo(QStringLiteral(QUORIN_PLAYER)).dir();
     for (const char *name : {"libOrbix.so", "quorin6.rcc"})
-        (void)linked(built.filePath(name));
+        (void)linked(built.filePath(name), m_programs);
 }
 
 PlayerProcess::~PlayerProcess()
@@ -65,9 +65,9 @@ PlayerProcess::~PlayerProcess()
         std::fprintf(stderr, "---- player.log\n%s----\n", qUtf8Printable(log()));
 }
 
-QString PlayerProcess::linked(const QString &program) const
+QString PlayerProcess::linked(const QString &program, const QTemporaryDir &folder)
 {
-    const QString path = m_programs.filePath(QFileInfo(program).fileName());
+    const QString path = folder.filePath(QFileInfo(program).fileName());
     const bool isThere =
         ::link(QFile::encodeName(program).constData(), QFile::encodeName(path).constData()) == 0
         || QFile::copy(program, path);

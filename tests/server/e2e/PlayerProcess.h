@@ -30,10 +30,10 @@ public:
     [[nodiscard]] qint64 serverId() const;
     // False when the process, no child of this one, still lives after a while.
     [[nodiscard]] static bool waitForEnd(qint64 id);
+    // The program by a path of its own in the folder.
+    [[nodiscard]] static QString linked(const QString &program, const QTemporaryDir &folder);
 
 private:
-    [[nodiscard]] QString linked(const QString &program) const;
-
     QTemporaryDir m_home;
     QTemporaryDir m_programs;
     QString m_server;

@@ -63,7 +63,7 @@ public:
             [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
                 if (type == QtWarningMsg)
                     ++s_count;
-                s_next(type, context, text);
+                s_next.load()(type, context, text);
             });
     }
     ~WarningCount() { qInstallMessageHandler(s_next); }

@@ -1,29 +1,18 @@
 #include "CoverReader.h"
 
+#include "pictures/LocalPictureLoader.h"
+#include "pictures/PictureDecoder.h"
 #include "player/QPlayer.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRunnable>
 
 namespace {
 
 QImage pictureOf(const QString &path)
 {
-    const QJsonObject request{{QStringLiteral("url"), path},
-                              {QStringLiteral("width"), CoverReader::WantedSize},
-                              {QStringLiteral("height"), CoverReader::WantedSize},
-                              {QStringLiteral("sourcetype"), 0}};
-    const PlayerPicture picture =
-        QPlayer::instance()->grabPicture(QJsonDocument(request).toJson(QJsonDocument::Compact));
-    if (picture.format != libvp::VD_Picture_Rgba)
-        return QImage::fromData(picture.data);
-    const qint64 needed = qint64(picture.width) * picture.height * 4;
-    if (picture.width <= 0 || picture.height <= 0 || picture.data.size() < needed)
-        return {};
-    return QImage(reinterpret_cast<const uchar *>(picture.data.constData()), picture.width, picture.height,
-                  picture.width * 4, QImage::Format_RGBX8888)
-        .copy();
+    const QSize size(CoverReader::WantedSize, CoverReader::WantedSize);
+    return PictureDecoder::fromEngine(
+        QPlayer::instance()->grabPicture(LocalPictureLoader::requestJson(path, false, size)));
 }
 
 } // namespace

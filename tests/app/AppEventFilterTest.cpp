@@ -1,5 +1,7 @@
 #include "keys/AppEventFilter.h"
 
+#include "transport/NormalTransparentBar.h"
+
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -42,6 +44,12 @@ protected:
                           Qt::NoScrollPhase, false);
         m_filter.eventFilter(target, &event);
     }
+    // The keys of PC mode as they stand in the settings.
+    void store(const KeyMap &keys)
+    {
+        m_pc = keys;
+        m_filter.SLOT_PcUpdateKeyMap();
+    }
     static int typeOf(const QSignalSpy &spy) { return spy.value(0).value(0).value<KeyOperateType>(); }
 
     KeyMap m_pc;
@@ -66,6 +74,63 @@ TEST_F(AppEventFilterTest, AKeyTypedInALineEditFiresNothing)
     QLineEdit edit(&m_window);
     press(&edit, Qt::Key_Space);
     EXPECT_TRUE(m_pcSpy.isEmpty());
+}
+
+TEST_F(AppEventFilterTest, AKeyOfATransparentBarIsOneOfTheWindow)
+{
+    NormalTransparentBar bar(NormalTransparentBar::Edge::Top, 40);
+    EXPECT_FALSE(press(&bar, Qt::Key_Space));
+    ASSERT_EQ(m_pcSpy.size(), 1);
+    EXPECT_EQ(typeOf(m_pcSpy), KeyOperate_PlayPause);
+}
+
+TEST_F(AppEventFilterTest, OfTwoStoredOperationsWithOneKeyTheLowerFiresAndTheOtherNever)
+{
+    store({{KeyOperate_Stop, Qt::Key_X}, {KeyOperate_Mute, Qt::Key_X}});
+    ASSERT_LT(int(KeyOperate_Mute), int(KeyOperate_Stop));
+    press(&m_window, Qt::Key_X);
+    press(&m_window, Qt::Key_X);
+    ASSERT_EQ(m_pcSpy.size(), 2);
+    for (const QList<QVariant> &told : m_pcSpy)
+        EXPECT_EQ(told.at(0).value<KeyOperateType>(), KeyOperate_Mute);
+}
+
+TEST_F(AppEventFilterTest, AnEntryStoredWithReturnIsFiredByTheKeypadsEnter)
+{
+    store({{KeyOperate_Stop, Qt::Key_Return}, {KeyOperate_Accept, Qt::Key_Y}});
+    press(&m_window, Qt::Key_Enter, Qt::KeypadModifier);
+    ASSERT_EQ(m_pcSpy.size(), 1);
+    EXPECT_EQ(typeOf(m_pcSpy), KeyOperate_Stop);
+}
+
+TEST_F(AppEventFilterTest, TheKeypadsDigitsAreTheMainDigits)
+{
+    store({{KeyOperate_Stop, Qt::Key_5}});
+    press(&m_window, Qt::Key_5, Qt::KeypadModifier);
+    press(&m_window, Qt::Key_5);
+    EXPECT_EQ(m_pcSpy.size(), 2);
+}
+
+TEST_F(AppEventFilterTest, AnOperationWhoseKeyWasDeletedIsOutOfReach)
+{
+    store({{KeyOperate_Mute, 0}, {KeyOperate_Stop, Qt::Key_X}});
+    for (const int key : {0, int(Qt::Key_Delete), int(Qt::Key_M)})
+        press(&m_window, key);
+    EXPECT_TRUE(m_pcSpy.isEmpty());
+    EXPECT_EQ(m_filter.keyText(false, KeyOperate_Mute), "None");
+}
+
+TEST_F(AppEventFilterTest, AMapOfAnEarlierVersionGetsCtrlRightAndAnEntryThatHasItKeepsIt)
+{
+    store({{KeyOperate_Mute, Qt::Key_M}});
+    press(&m_window, Qt::Key_Right, Qt::ControlModifier);
+    ASSERT_EQ(m_pcSpy.size(), 1);
+    EXPECT_EQ(typeOf(m_pcSpy), KeyOperate_ForwardStep);
+    store({{KeyOperate_Mute, Qt::CTRL + Qt::Key_Right}});
+    m_pcSpy.clear();
+    press(&m_window, Qt::Key_Right, Qt::ControlModifier);
+    ASSERT_EQ(m_pcSpy.size(), 1);
+    EXPECT_EQ(typeOf(m_pcSpy), KeyOperate_Mute);
 }
 
 TEST_F(AppEventFilterTest, AModifierAloneProducesNothing)

@@ -1,6 +1,7 @@
 #include "engine/DiscBackups.h"
 
 #include "MediaClips.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -8,12 +9,10 @@
 #include <gtest/gtest.h>
 
 #include <condition_variable>
-#include <csignal>
 #include <cstring>
 #include <functional>
 #include <mutex>
 #include <set>
-#include <sys/resource.h>
 #include <thread>
 
 namespace {
@@ -238,18 +237,12 @@ TEST_F(DiscBackupTest, ASectorThatCannotBeReadEndsTheBackupWithoutAFile)
 
 TEST_F(DiscBackupTest, AFullDiskEndsTheBackupWithoutAFile)
 {
-    // A limit on the size of files fails a write as a full disk does.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before = {};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 300 * 1024;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const auto backup = start(script(1000));
-    const bool ended = waitUntil([&] { return !backup->isRunning(); });
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_DFL);
-    ASSERT_TRUE(ended);
+    const auto backup = [this] {
+        const FileSizeLimit limit(300 * 1024);
+        auto started = start(script(1000));
+        EXPECT_TRUE(waitUntil([&] { return !started->isRunning(); }));
+        return started;
+    }();
     EXPECT_TRUE(backup->isFailed());
     EXPECT_TRUE(files().isEmpty());
 }

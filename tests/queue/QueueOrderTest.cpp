@@ -75,6 +75,25 @@ TEST(QueueOrder, ShuffleGoesOnFromARowThatIsGone)
     EXPECT_EQ(order.afterEnd(QueueOrder::Shuffle, {0, -1}, plain(2, {0, 1})).row, -1);
 }
 
+TEST(QueueOrder, OfTenThousandMissingFilesNoneIsChosenWhateverRepeats)
+{
+    const QueueOrder order([] { return 5000; });
+    const int current = 4711;
+    QueueOrder::Queue queue;
+    queue.count = 10000;
+    for (const bool isCurrentGone : {false, true}) {
+        queue.isGone = [=](int row) { return isCurrentGone || row != current; };
+        const Place again = isCurrentGone ? Place() : Place{current, -1};
+        for (const int type : {QueueOrder::Sequence, QueueOrder::Shuffle, QueueOrder::RepeatAll}) {
+            const Place expected = type == QueueOrder::Sequence ? Place() : again;
+            EXPECT_EQ(order.afterEnd(type, {current, -1}, queue), expected) << type;
+            EXPECT_EQ(order.next(type, {current, -1}, queue), expected) << type;
+        }
+        EXPECT_EQ(order.last(QueueOrder::Sequence, {current, -1}, queue), Place());
+        EXPECT_EQ(order.last(QueueOrder::RepeatAll, {current, -1}, queue), again);
+    }
+}
+
 TEST(QueueOrder, ShuffleReachesEveryRow)
 {
     const QueueOrder order;

@@ -1,7 +1,7 @@
 #include "DesktopSandbox_linux.h"
 
-#include "registry/FileSizeLimit_linux.h"
 #include "shell/MimeAppsList_linux.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include <QDir>
 #include <QFile>

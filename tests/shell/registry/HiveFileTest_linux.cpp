@@ -1,8 +1,8 @@
-#include "FileSizeLimit_linux.h"
 #include "RegistrySandbox.h"
 
 #include "registry/HiveFile_linux.h"
 #include "registry/HiveOperator_linux.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include <gtest/gtest.h>
 

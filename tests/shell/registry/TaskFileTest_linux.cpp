@@ -1,7 +1,7 @@
-#include "FileSizeLimit_linux.h"
 #include "RegistrySandbox.h"
 
 #include "registry/DRegTaskManager.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include <gtest/gtest.h>
 

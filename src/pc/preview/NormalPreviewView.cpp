@@ -138,6 +138,9 @@ void NormalPreviewView::connectParts()
     connect(m_list, &QAbstractItemView::clicked, this, &NormalPreviewView::slot_seek);
     connect(m_list->horizontalScrollBar(), &QAbstractSlider::sliderPressed, this,
             [this] { m_isFollowing = false; });
+    // The list lays its rows out some time after they came.
+    connect(m_list->horizontalScrollBar(), &QAbstractSlider::rangeChanged, this,
+            &NormalPreviewView::followPlaying);
     connect(m_closeButton, &QAbstractButton::clicked, this, &NormalPreviewView::sig_closeClicked);
     connect(this, &NormalPreviewView::sig_clearCurrentIndex, m_list, [this] {
         m_hasCursor = false;

@@ -116,8 +116,10 @@ size_t HttpServer::Engine::onUnescape(void *, MHD_Connection *, char *text)
     return qstrlen(text);
 }
 
-void HttpServer::Engine::onCompleted(void *, MHD_Connection *, void **context, MHD_RequestTerminationCode)
+void HttpServer::Engine::onCompleted(void *self, MHD_Connection *, void **context, MHD_RequestTerminationCode)
 {
+    // It may have been carried out and never be looked at again.
+    std::lock_guard lock(static_cast<Engine *>(self)->m_workMutex);
     delete static_cast<HttpExchange *>(*context);
     *context = nullptr;
 }
@@ -164,13 +166,20 @@ MHD_Result HttpServer::Engine::proceed(MHD_Connection *connection, HttpExchange 
         // body, an endless one is cut off.
         return exchange.received() > absorbed * m_settings.largestBody ? MHD_NO : MHD_YES;
     }
+    const HttpExchange::State state = stateOf(exchange);
     if (exchange.refusal != 0)
         return HttpAnswer::queueStatus(connection, exchange.refusal);
-    if (exchange.state == HttpExchange::State::ReadingBody)
+    if (state == HttpExchange::State::ReadingBody)
         return startWork(connection, exchange) ? MHD_YES : HttpAnswer::queueStatus(connection, unavailable);
-    if (exchange.state == HttpExchange::State::Answered)
+    if (state == HttpExchange::State::Answered)
         return HttpAnswer::queue(connection, std::move(exchange.reply));
     return MHD_YES;
+}
+
+HttpExchange::State HttpServer::Engine::stateOf(const HttpExchange &exchange)
+{
+    std::lock_guard lock(m_workMutex);
+    return exchange.state;
 }
 
 bool HttpServer::Engine::startWork(MHD_Connection *connection, HttpExchange &exchange)
@@ -178,29 +187,46 @@ bool HttpServer::Engine::startWork(MHD_Connection *connection, HttpExchange &exc
     std::lock_guard lock(m_workMutex);
     if (m_stopping)
         return false;
-    // Whatever fails from here on, the connection must be resumed with something to say.
-    const auto finish = [connection, &exchange] {
-        exchange.dropBody();
-        exchange.state = HttpExchange::State::Answered;
-        MHD_resume_connection(connection);
-    };
-    const std::function<void()> work = [this, &exchange, finish] {
-        try {
-            exchange.reply = carriedOut(exchange);
-        } catch (...) {
-            exchange.refusal = unavailable;
-        }
-        finish();
-    };
+    m_waiting.push_back({connection, &exchange});
     exchange.state = HttpExchange::State::Working;
     MHD_suspend_connection(connection);
     try {
-        m_pool.start(work);
+        m_pool.start([this] { carryOutNext(); });
     } catch (...) {
+        // The connection must be resumed with something to say.
+        m_waiting.pop_back();
         exchange.refusal = unavailable;
-        finish();
+        exchange.dropBody();
+        exchange.state = HttpExchange::State::Answered;
+        MHD_resume_connection(connection);
     }
     return true;
+}
+
+void HttpServer::Engine::carryOutNext()
+{
+    Work work{};
+    {
+        std::lock_guard lock(m_workMutex);
+        work = m_waiting.front();
+        m_waiting.pop_front();
+    }
+    HttpReply reply;
+    int refusal = 0;
+    try {
+        reply = carriedOut(*work.exchange);
+    } catch (...) {
+        refusal = unavailable;
+    }
+    {
+        std::lock_guard lock(m_workMutex);
+        work.exchange->reply = std::move(reply);
+        work.exchange->refusal = refusal;
+        work.exchange->dropBody();
+        work.exchange->state = HttpExchange::State::Answered;
+    }
+    // Whatever failed, there is an answer. The library has locks of its own, so ours is given back before.
+    MHD_resume_connection(work.connection);
 }
 
 HttpReply HttpServer::Engine::carriedOut(const HttpExchange &exchange) const

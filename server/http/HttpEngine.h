@@ -12,6 +12,7 @@
 #include <microhttpd.h>
 
 #include <atomic>
+#include <deque>
 #include <mutex>
 
 class HttpServer::Engine final {
@@ -36,14 +37,24 @@ private:
                                      size_t *size);
     // False once the server is stopping.
     [[nodiscard]] bool startWork(MHD_Connection *connection, HttpExchange &exchange);
+    [[nodiscard]] HttpExchange::State stateOf(const HttpExchange &exchange);
+    // On a thread of the pool: the request that has waited for longest.
+    void carryOutNext();
     [[nodiscard]] HttpReply carriedOut(const HttpExchange &exchange) const;
+
+    struct Work {
+        MHD_Connection *connection;
+        HttpExchange *exchange;
+    };
 
     Handlers m_handlers;
     Settings m_settings;
     quint16 m_port{0};
     MHD_Daemon *m_daemon{nullptr}; // made by start(), ended by stop()
-    std::mutex m_workMutex;        // guards m_stopping together with the start of work
+    std::mutex m_workMutex;        // guards all below, and an exchange that goes from thread to thread
     bool m_stopping{false};
+    std::deque<Work> m_waiting;
+
     std::atomic<qint64> m_together{0};
     QThreadPool m_pool;
 };

@@ -1,5 +1,5 @@
 // One request from its head to its answer. Belongs to the connection: its moving thread and the one pool
-// thread that carries it out touch it in turn, never at once.
+// thread that carries it out touch it in turn, never at once; the engine's lock stands between them.
 #pragma once
 
 #include "HttpReply.h"

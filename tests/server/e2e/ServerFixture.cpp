@@ -5,7 +5,6 @@
 #include "library/LibraryPause.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
 
 #include <algorithm>
 
@@ -76,9 +75,13 @@ void ServerFixture::killServer()
 
 void ServerFixture::scan()
 {
-    QSignalSpy taken(m_manager.get(), &MediaServerManager::sig_updateLibraryCompleted);
+    // Signals come from the manager's own threads: what is made of them happens here.
+    QObject here;
+    bool isTaken = false;
+    QObject::connect(m_manager.get(), &MediaServerManager::sig_updateLibraryCompleted, &here,
+                     [&isTaken](bool succeeded) { isTaken = succeeded; });
     m_manager->startLibraryUpdate();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !taken.isEmpty() && taken.last().first().toBool(); }, ReadyMs));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isTaken; }, ReadyMs));
     waitForScanEnd();
 }
 
@@ -91,11 +94,14 @@ void ServerFixture::waitForScanEnd()
 
 bool ServerFixture::waitByHeartbeats(const std::function<bool()> &condition, int limitMs)
 {
-    QSignalSpy beats(m_manager.get(), &MediaServerManager::sig_updateHeartBeat);
+    QObject here;
+    int beats = 0;
+    QObject::connect(m_manager.get(), &MediaServerManager::sig_updateHeartBeat, &here, [&beats] { ++beats; });
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < limitMs) {
-        if (beats.wait(limitMs) && condition())
+        beats = 0;
+        if (QTest::qWaitFor([&] { return beats > 0; }, limitMs) && condition())
             return true;
     }
     return false;

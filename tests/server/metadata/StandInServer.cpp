@@ -58,7 +58,10 @@ void StandInServer::listen()
 {
     m_server = new QTcpServer;
     m_server->listen(QHostAddress::LocalHost);
-    m_port = m_server->serverPort();
+    {
+        std::lock_guard lock(m_mutex);
+        m_port = m_server->serverPort();
+    }
     QObject::connect(m_server, &QTcpServer::newConnection, &m_context, [this] { takeConnection(); });
 }
 
@@ -150,9 +153,15 @@ void StandInServer::answer(const QByteArray &question, const QByteArray &json)
     answer(question, {Reply{200, json, {"Content-Type: application/json"}, Manner::Whole}});
 }
 
+quint16 StandInServer::port() const
+{
+    std::lock_guard lock(m_mutex);
+    return m_port;
+}
+
 QString StandInServer::url(const QString &path) const
 {
-    return QStringLiteral("http://127.0.0.1:%1%2").arg(m_port).arg(path);
+    return QStringLiteral("http://127.0.0.1:%1%2").arg(port()).arg(path);
 }
 
 QVector<StandInServer::Request> StandInServer::requests() const

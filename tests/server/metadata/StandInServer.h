@@ -47,7 +47,7 @@ public:
     void answer(const QByteArray &question, const QByteArray &json);
 
     [[nodiscard]] QString url(const QString &path) const;
-    [[nodiscard]] quint16 port() const { return m_port; }
+    [[nodiscard]] quint16 port() const;
     [[nodiscard]] QVector<Request> requests() const;
     [[nodiscard]] int countOf(const QByteArray &path) const; // requests whose target holds it
     [[nodiscard]] int connections() const;
@@ -64,8 +64,8 @@ private:
     QThread m_thread;
     QObject m_context; // lives in the thread
     QTcpServer *m_server{nullptr};
+    mutable std::mutex m_mutex; // guards what follows
     quint16 m_port{0};
-    mutable std::mutex m_mutex;
     QHash<QByteArray, QVector<Reply>> m_rows;
     QVector<Request> m_requests;
     int m_connections{0};

@@ -3,12 +3,14 @@
 #include "ApplicationInfoManager.h"
 #include "LanguageTable.h"
 #include "SettingsKeys.h"
+#include "WholeSettingsFile.h"
 
 #include <QDebug>
 #include <QLocale>
 
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -58,6 +60,7 @@ SettingsManager::SettingsManager(const QString &filePath)
     : m_settings(filePath, QSettings::IniFormat)
     , m_systemLanguage([] { return SystemLanguageId::fromLocale(QLocale::system()); })
 {
+    new WholeSettingsFile(m_settings, m_mutex); // its child
 }
 
 void SettingsManager::setValue(const QString &key, const QVariant &value)
@@ -87,7 +90,14 @@ void SettingsManager::remove(const QString &key)
 void SettingsManager::sync()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_settings.sync();
+    write();
+}
+
+void SettingsManager::write()
+{
+    if (m_settings.findChild<WholeSettingsFile *>()->sync() || std::exchange(m_hasToldFailure, true))
+        return;
+    qInfo().noquote() << "[Settings] the file cannot be written:" << m_settings.fileName();
 }
 
 QString SettingsManager::fileName() const
@@ -140,7 +150,7 @@ void SettingsManager::writeArray(const QString &key, const QList<QVariantMap> &e
             m_settings.setValue(it.key(), it.value());
     }
     m_settings.endArray();
-    m_settings.sync();
+    write();
 }
 
 int SettingsManager::launchMode() const
@@ -412,7 +422,7 @@ void SettingsManager::setMapEntry(const char *key, const QString &path, const QV
     QVariantMap map = m_settings.value(key).toMap();
     map.insert(path, entry);
     m_settings.setValue(key, map);
-    m_settings.sync();
+    write();
 }
 
 int SettingsManager::lastPosition(const QString &path) const
@@ -474,6 +484,6 @@ bool SettingsManager::removePoster(const QString &path)
     if (map.remove(path) == 0)
         return false;
     m_settings.setValue(SettingsKeys::PC_PosterMap, map);
-    m_settings.sync();
+    write();
     return true;
 }

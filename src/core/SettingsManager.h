@@ -125,10 +125,14 @@ private:
     [[nodiscard]] QVariant mapEntry(const char *key, const QString &path) const;
     void setMapEntry(const char *key, const QString &path, const QVariant &value);
     void logKeyMap(bool tv, bool saving, const KeyMap &map) const;
+    // Under the lock. A file that can't be written is told once; what was to be written is kept and tried
+    // again with the next change.
+    void write();
 
     // QSettings keeps the array it is in as state of the object, so a whole array is read or written under
     // the lock.
     mutable std::mutex m_mutex;
     mutable QSettings m_settings;
     SystemLanguageReader m_systemLanguage;
+    bool m_hasToldFailure{false};
 };

@@ -4,10 +4,12 @@
 #include "core/ApplicationInfoManager.h"
 #include "core/MarkerFiles.h"
 #include "core/SettingsKeys.h"
+#include "support/FileSizeLimit_linux.h"
 #include "support/TestLog.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSize>
 #include <QTemporaryDir>
 
@@ -349,6 +351,69 @@ TEST_F(SettingsManagerTest, AReadOnlyFileIsKeptAsItIs)
     QFile file(m_file);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "[General]\nPC_Language=GER\n");
+}
+
+TEST_F(SettingsManagerTest, AFullDiskLeavesTheFileOfBeforeAndNothingIsLost)
+{
+    // Objects of one process share what they know of a file: its bytes tell.
+    const auto bytes = [this] {
+        QFile file(m_file);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    SettingsManager store(m_file);
+    const QString before(4000, QLatin1Char('a'));
+    const QString after(4000, QLatin1Char('b'));
+    store.setValue("PC_Font", before);
+    store.setValue("PC_Codec", 7);
+    store.setKeyMap(false, {{1, 2}, {3, 4}});
+    const QByteArray whole = bytes();
+    ASSERT_TRUE(whole.contains(before.toLatin1()));
+    {
+        const FileSizeLimit limit(2000);
+        store.setValue("PC_Font", after);
+        store.remove("PC_Codec");
+        store.sync();
+        EXPECT_EQ(bytes(), whole);
+        store.setKeyMap(false, {{1, 3}});
+        store.setLastPosition("/films/a.mkv", 4711);
+        // What is written by itself is no other matter.
+        store.setValue("PC_Played", true);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(bytes(), whole);
+        EXPECT_EQ(store.value("PC_Font").toString(), after);
+        EXPECT_FALSE(store.contains("PC_Codec"));
+        EXPECT_EQ(store.keyMap(false), (SettingsManager::KeyMap{{1, 3}}));
+        EXPECT_EQ(store.lastPosition("/films/a.mkv"), 4711);
+    }
+    EXPECT_EQ(TestLog::infoLines(), QStringList("[Settings] the file cannot be written: " + m_file));
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList("config.ini"));
+    // With room again the next change brings all of it.
+    store.setLaunchMode(2);
+    store.sync();
+    const QByteArray written = bytes();
+    EXPECT_TRUE(written.contains(after.toLatin1()));
+    EXPECT_TRUE(written.contains("PC_LastPositionMap=@Variant("));
+    EXPECT_TRUE(written.contains("PC_Played=true"));
+    EXPECT_TRUE(written.contains("1\\HotKey_Value=3"));
+    EXPECT_FALSE(written.contains("2\\HotKey_Value"));
+    EXPECT_FALSE(written.contains("PC_Codec"));
+    EXPECT_TRUE(written.contains("launchModeVersion6=2"));
+}
+
+TEST_F(SettingsManagerTest, AFullDiskAtTheFirstWriteLeavesNoHalfFile)
+{
+    SettingsManager store(m_file);
+    const QString text(4000, QLatin1Char('a'));
+    {
+        const FileSizeLimit limit(2000);
+        store.setValue("PC_Font", text);
+        store.sync();
+        EXPECT_FALSE(QFile::exists(m_file));
+        EXPECT_EQ(store.value("PC_Font").toString(), text);
+    }
+    store.sync();
+    EXPECT_EQ(SettingsManager(m_file).value("PC_Font").toString(), text);
+    EXPECT_GT(QFileInfo(m_file).size(), 4000);
 }
 
 TEST_F(SettingsManagerTest, AFolderThatDoesNotExistAndCanNotBeMadeIsNoCrash)

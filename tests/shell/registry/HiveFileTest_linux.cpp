@@ -1,4 +1,5 @@
 #include "RegistrySandbox.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include "registry/HiveFile_linux.h"
 #include "registry/HiveOperator_linux.h"

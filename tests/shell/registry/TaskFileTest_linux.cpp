@@ -1,4 +1,5 @@
 #include "RegistrySandbox.h"
+#include "support/FileSizeLimit_linux.h"
 
 #include "registry/DRegTaskManager.h"
 #include "support/FileSizeLimit_linux.h"

@@ -133,7 +133,6 @@ void NormalMainWindow::SLOT_haveMouseMove()
         return;
     unsetCursor();
     m_overlays->wake();
-    pauseWhileMinimized();
 }
 
 // What the user has paused stays so.
@@ -142,12 +141,13 @@ void NormalMainWindow::pauseWhileMinimized()
     if (m_player == nullptr || !m_control->hasSource())
         return;
     if (isMinimized()) {
-        m_isPausedByMinimize = m_settings.valueOr(QLatin1String(SettingsKeys::PC_PausePlay), false)
-                               && QPlayer::isMoving(m_player->status());
-        if (m_isPausedByMinimize)
-            m_player->togglePause();
-    } else if (std::exchange(m_isPausedByMinimize, false)
-               && m_player->status() == QPlayer::QPlayerStatus_Paused) {
+        // The system may tell of it more than once.
+        if (m_isPausedByMinimize || !QPlayer::isMoving(m_player->status())
+            || !m_settings.valueOr(QLatin1String(SettingsKeys::PC_PausePlay), false))
+            return;
+        m_isPausedByMinimize = true;
+        m_player->togglePause();
+    } else if (std::exchange(m_isPausedByMinimize, false) && m_player->isPaused()) {
         m_player->resume();
     }
 }
@@ -202,6 +202,7 @@ void NormalMainWindow::changeEvent(QEvent *event)
     m_session->setFullScreen(isFullScreen());
     unsetCursor();
     m_overlays->wake();
+    pauseWhileMinimized();
 }
 
 void NormalMainWindow::moveEvent(QMoveEvent *event)

@@ -94,6 +94,7 @@ void EnginePreferences::applyAll()
 void EnginePreferences::applyAllButSound()
 {
     applyVideo();
+    applyPicture();
     applySubtitle();
     applyRegion();
     applyStoredShader();
@@ -121,6 +122,15 @@ void EnginePreferences::applyVideo()
     m_player.setSDRMode(sdrMode);
     m_player.setSDRValue(sdrValue);
     m_player.setLimitedRange(colorMode != PreferenceRows::FullRange);
+}
+
+void EnginePreferences::applyPicture()
+{
+    StoredPreferences stored(m_settings, StoredPreferences::Absent::Stays);
+    m_player.setDeinterlaceMode(stored.number(PreferenceRows::Deinterlace));
+    m_player.setBrightness(static_cast<float>(stored.number(PreferenceRows::Brightness)));
+    m_player.setContrast(static_cast<float>(stored.number(PreferenceRows::Contrast)));
+    m_player.setSaturation(static_cast<float>(stored.number(PreferenceRows::Saturation)));
 }
 
 void EnginePreferences::applyAudio(Occasion occasion)

@@ -23,6 +23,8 @@ public:
     }
 
     void applyVideo();
+    // What the menu and the dialog of colours have left, for the plays of another run.
+    void applyPicture();
     // Completes the group in the settings, and stores the formats that pass through.
     void applyAudio(Occasion occasion = Occasion::SetUp);
     // Completes the group in the settings.

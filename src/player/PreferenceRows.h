@@ -40,6 +40,12 @@ inline constexpr NumberRow HdrMode{SettingsKeys::PC_HDRMode, 0, 0, 1};
 // A screen of a computer shows the whole range.
 inline constexpr NumberRow ColorMode{SettingsKeys::PC_ColorMode, FullRange, 0, 31};
 
+// The picture as the menu and its dialogs leave it
+inline constexpr NumberRow Deinterlace{SettingsKeys::PC_Deinterlace, 0, 0, 2}; // off, automatic, on
+inline constexpr NumberRow Brightness{SettingsKeys::PC_Brightness, 50, 0, 100};
+inline constexpr NumberRow Contrast{SettingsKeys::PC_Contrast, 50, 0, 100};
+inline constexpr NumberRow Saturation{SettingsKeys::PC_Saturation, 50, 0, 100};
+
 // Audio
 inline constexpr NumberRow Speaker{SettingsKeys::PC_Speaker, 0, 0, 2}; // stereo, 5.1, 7.1
 inline constexpr NumberRow Amplification{SettingsKeys::PC_VolumeAmplification, 0, 0, 60};

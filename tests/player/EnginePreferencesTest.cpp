@@ -123,6 +123,18 @@ TEST_F(EnginePreferencesTest, RubbishInTheVideoKeysIsToldAndReplaced)
         << "the file is the user's";
 }
 
+TEST_F(EnginePreferencesTest, ThePictureComesBackAsItWasLeft)
+{
+    set(SettingsKeys::PC_Deinterlace, 2);
+    set(SettingsKeys::PC_Brightness, 70);
+    set(SettingsKeys::PC_Contrast, QStringLiteral("banana"));
+    set(SettingsKeys::PC_Saturation, 1000);
+    preferences.applyPicture();
+    EXPECT_THAT(takeCalls(),
+                ElementsAre("IVDPlayTool::setDeinterlaceMode(2)", "IVDPlayTool::setBrightness(70)",
+                            "IVDPlayTool::setContrast(50)", "IVDPlayTool::setSaturation(100)"));
+}
+
 // ---- audio
 
 TEST_F(EnginePreferencesTest, TheFirstDeviceIsTakenAndStoredWhenNoneIs)

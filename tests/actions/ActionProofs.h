@@ -7,7 +7,7 @@
 #include <vector>
 
 struct ActionProof {
-    static constexpr char Film[] = "film.mkv"; // 120 s, three tracks of each kind, chapters at 0, 40 and 80 s
+    static constexpr char Film[] = "film.mkv"; // 150 s, three tracks of each kind, chapters at 0, 40 and 80 s
 
     // Of the menu's entry, with its argument; empty for an operation that stands in no menu.
     const char *key;

@@ -7,7 +7,7 @@
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
 #include "core/SettingsKeys.h"
-#include "dialogs/NormalDialogFrame.h"
+#include "dialogs/NormalMessageBox.h"
 #include "keys/AppEventFilter.h"
 #include "keys/KeyMapTables.h"
 #include "menus/NormalAction.h"
@@ -20,6 +20,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 
@@ -36,8 +37,13 @@ QString shown(const MpvValue &value)
         return QString::number(value.integer());
     if (std::holds_alternative<double>(value.data()))
         return QString::number(value.number(), 'f', kDecimals);
-    if (std::holds_alternative<MpvMap>(value.data()))
-        return QString::fromStdString(value.at("name").text());
+    if (std::holds_alternative<MpvMap>(value.data())) {
+        // A filter: its name and its arguments.
+        QStringList parts(QString::fromStdString(value.at("name").text()));
+        for (const auto &argument : value.at("params").map())
+            parts << QString::fromStdString(argument.second.text());
+        return parts.join(QLatin1Char(':'));
+    }
     if (std::holds_alternative<MpvList>(value.data())) {
         QStringList parts;
         for (const MpvValue &part : value.list())
@@ -79,7 +85,15 @@ ActionRig::ActionRig()
     m_answerTimer.setInterval(kLookMs);
     QObject::connect(&m_answerTimer, &QTimer::timeout, &m_answerTimer, [this] {
         QWidget *modal = QApplication::activeModalWidget();
-        if (!m_answer || modal == nullptr || !modal->isVisible())
+        if (modal == nullptr || !modal->isVisible())
+            return;
+        auto *note = qobject_cast<NormalMessageBox *>(modal);
+        if (!m_answer && note != nullptr) {
+            for (const QLabel *label : note->findChildren<QLabel *>())
+                ADD_FAILURE() << "nobody expects: " << label->text().toStdString();
+            note->close();
+        }
+        if (!m_answer)
             return;
         // It may turn an event loop of its own.
         const Answer answer = std::exchange(m_answer, nullptr);

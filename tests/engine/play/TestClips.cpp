@@ -191,7 +191,7 @@ void make(const QString &name, const QString &target)
     if (name == "tracks.mkv")
         makeTracks(target, 10, 3);
     else if (name == "film.mkv")
-        makeTracks(target, 120, 40);
+        makeTracks(target, 150, 40);
     else if (name == "cover.mp3")
         makeCover(target);
     else if (name == "truncated.mp4")

@@ -11,7 +11,7 @@ namespace TestClips {
 //   second "tracks.mkv"     10 s, three audio tracks (eng, ger, fre), three subtitles (eng, ger, fre),
 //   chapters at 0, 3
 //                    and 6 s named One, Two, Three
-//   "film.mkv"       the same over 120 s, with chapters at 0, 40 and 80 s
+//   "film.mkv"       the same over 150 s, with chapters at 0, 40 and 80 s
 //   "short.mp4"      1 s
 //   "long.mp4"       60 s, key frame every ten seconds
 //   "long.ts"        the same without an index

@@ -2,6 +2,8 @@
 
 #include "StyleLoader.h"
 
+#include "core/CommonInfoManager.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
@@ -26,7 +28,27 @@ QImage fittingForm(const QString &name, int sizePx)
     return image;
 }
 
+struct KindRow {
+    FileKind kind;
+    const char *name;
+};
+constexpr KindRow kKinds[] = {
+    {FileKind::Video, "media_film"},
+    {FileKind::Audio, "media_music"},
+    {FileKind::DiscImage, "media_disc"},
+};
+
 } // namespace
+
+QString nameOfFile(const QString &path)
+{
+    const FileKind kind = CommonInfoManager::kindOf(path);
+    for (const KindRow &row : kKinds) {
+        if (row.kind == kind)
+            return QLatin1String(row.name);
+    }
+    return QStringLiteral("media_file");
+}
 
 QPixmap pixmap(const QString &name, int sizePx, const QColor &color)
 {

@@ -13,4 +13,7 @@ namespace TransportIcons {
 // A square picture of that many screen pixels; null when the resource file has none of this name.
 [[nodiscard]] QPixmap pixmap(const QString &name, int sizePx, const QColor &color);
 
+// The name of the one that stands for a file of this kind.
+[[nodiscard]] QString nameOfFile(const QString &path);
+
 } // namespace TransportIcons

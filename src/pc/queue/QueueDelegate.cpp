@@ -14,16 +14,6 @@ namespace {
 
 constexpr int kFrame = 2; // design pixels
 
-struct KindRow {
-    FileKind kind;
-    const char *icon;
-};
-constexpr KindRow kKinds[] = {
-    {FileKind::Video, "media_film"},
-    {FileKind::Audio, "media_music"},
-    {FileKind::DiscImage, "media_disc"},
-};
-
 } // namespace
 
 QueueDelegate::QueueDelegate(QObject *parent)
@@ -62,12 +52,7 @@ QString QueueDelegate::iconOf(const QModelIndex &index)
     default:
         break;
     }
-    const FileKind kind = CommonInfoManager::kindOf(index.data(PlayQueueModel::PathRole).toString());
-    for (const KindRow &row : kKinds) {
-        if (row.kind == kind)
-            return QLatin1String(row.icon);
-    }
-    return QStringLiteral("media_file");
+    return TransportIcons::nameOfFile(index.data(PlayQueueModel::PathRole).toString());
 }
 
 QString QueueDelegate::softText(const QModelIndex &index)

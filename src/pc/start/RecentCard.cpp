@@ -1,9 +1,7 @@
 #include "RecentCard.h"
 
-#include "ui/FocusRing.h"
-
-#include "core/CommonInfoManager.h"
 #include "ui/FixedDigits.h"
+#include "ui/FocusRing.h"
 #include "ui/LookTokens.h"
 #include "ui/TransportIcons.h"
 
@@ -35,28 +33,13 @@ constexpr int kChipInset = 6;
 constexpr double kMissingOpacity = 0.35;
 constexpr double kShade = 0.28;
 
-struct KindRow {
-    FileKind kind;
-    const char *icon;
-};
-constexpr KindRow kKinds[] = {
-    {FileKind::Video, "media_film"},
-    {FileKind::Audio, "media_music"},
-    {FileKind::DiscImage, "media_disc"},
-};
-
 QString iconOf(const RecentFiles::Entry &entry)
 {
     if (entry.type == RecentFiles::Disc || entry.path.size() == 1)
         return QStringLiteral("media_disc");
     if (entry.type == RecentFiles::Folder)
         return QStringLiteral("media_folder");
-    const FileKind kind = CommonInfoManager::kindOf(entry.path);
-    for (const KindRow &row : kKinds) {
-        if (row.kind == kind)
-            return QLatin1String(row.icon);
-    }
-    return QStringLiteral("media_file");
+    return TransportIcons::nameOfFile(entry.path);
 }
 
 QPainterPath rounded(const QRectF &rect, int designPixels)
@@ -82,16 +65,13 @@ QPixmap covering(const QPixmap &picture, const QSize &size, qreal ratio)
 RecentCard::RecentCard(RecentFiles::Entry entry, QWidget *parent)
     : QAbstractButton(parent)
     , m_entry(std::move(entry))
+    , m_heat(this, Look::FadeInMs, Look::FadeOutMs)
 {
     // By the keyboard alone: what is clicked does not hold the keys of the window back.
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     // A stored picture may be broken; then it counts as none.
     m_picture.loadFromData(m_entry.picture);
-    m_heat.setDuration(Look::FadeInMs);
-    m_heat.setStartValue(0.0);
-    m_heat.setEndValue(1.0);
-    connect(&m_heat, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
     retranslate();
 }
 
@@ -145,23 +125,15 @@ QString RecentCard::typeText() const
     return {};
 }
 
-void RecentCard::heat(bool up)
-{
-    m_heat.setDuration(up ? Look::FadeInMs : Look::FadeOutMs);
-    m_heat.setDirection(up ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
-    if (m_heat.state() != QAbstractAnimation::Running)
-        m_heat.start();
-}
-
 void RecentCard::enterEvent(QEvent *event)
 {
-    heat(true);
+    m_heat.warm(true);
     QAbstractButton::enterEvent(event);
 }
 
 void RecentCard::leaveEvent(QEvent *event)
 {
-    heat(false);
+    m_heat.warm(false);
     QAbstractButton::leaveEvent(event);
 }
 
@@ -224,7 +196,7 @@ void RecentCard::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const double warmth = m_heat.currentValue().toDouble();
+    const double warmth = m_heat.value();
     const bool hasCursor = FocusRing::isOn(this);
     if (m_isLine && (warmth > 0.0 || hasCursor)) {
         QColor ground = Look::color(Look::ControlGround);
@@ -273,7 +245,7 @@ void RecentCard::paintPicture(QPainter &painter)
     if (m_entry.seconds > 0 && !m_isLine)
         paintPosition(painter, rect);
     painter.restore();
-    const double warmth = FocusRing::isOn(this) ? 1.0 : m_heat.currentValue().toDouble();
+    const double warmth = FocusRing::isOn(this) ? 1.0 : m_heat.value();
     if (warmth <= 0.0 || m_isMissing)
         return;
     painter.save();

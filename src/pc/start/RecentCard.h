@@ -5,10 +5,10 @@
 #pragma once
 
 #include "playcontrol/RecentFiles.h"
+#include "ui/HoverHeat.h"
 
 #include <QAbstractButton>
 #include <QPixmap>
-#include <QVariantAnimation>
 
 class RecentCard final : public QAbstractButton {
     Q_OBJECT
@@ -40,7 +40,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void heat(bool up);
     [[nodiscard]] QRect pictureRect() const;
     [[nodiscard]] QRect textRect() const;
     void paintPicture(QPainter &painter);
@@ -55,5 +54,5 @@ private:
     QPixmap m_scaled;
     bool m_isLine{false};
     bool m_isMissing{false};
-    QVariantAnimation m_heat;
+    HoverHeat m_heat;
 };

@@ -19,6 +19,7 @@ constexpr int kHeatMs = 120;
 
 NormalProgressBar::NormalProgressBar(QWidget *parent)
     : QAbstractSlider(parent)
+    , m_heat(this, kHeatMs, kHeatMs)
 {
     setOrientation(Qt::Horizontal);
     setRange(0, 0);
@@ -26,10 +27,6 @@ NormalProgressBar::NormalProgressBar(QWidget *parent)
     setPageStep(PageSeconds);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    m_heat.setDuration(kHeatMs);
-    m_heat.setStartValue(0.0);
-    m_heat.setEndValue(1.0);
-    connect(&m_heat, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
 
 void NormalProgressBar::setTotal(int seconds)
@@ -67,7 +64,7 @@ void NormalProgressBar::paintEvent(QPaintEvent *)
     SeekTrack::State state;
     state.seconds = sliderPosition();
     state.hoverX = isEnabled() && maximum() > 0 ? m_hoverX : -1;
-    state.heat = m_heat.currentValue().toDouble();
+    state.heat = m_heat.value();
     state.enabled = isEnabled();
     state.focus = FocusRing::isOn(this);
     track().paint(painter, state);
@@ -169,17 +166,10 @@ void NormalProgressBar::wheelEvent(QWheelEvent *event)
     event->ignore();
 }
 
-void NormalProgressBar::warm(bool up)
-{
-    m_heat.setDirection(up ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
-    if (m_heat.state() != QAbstractAnimation::Running)
-        m_heat.start();
-}
-
 void NormalProgressBar::enterEvent(QEvent *event)
 {
     if (maximum() > 0)
-        warm(true);
+        m_heat.warm(true);
     QAbstractSlider::enterEvent(event);
 }
 
@@ -188,7 +178,7 @@ void NormalProgressBar::leaveEvent(QEvent *)
     if (isSliderDown())
         return;
     m_hoverX = -1;
-    warm(false);
+    m_heat.warm(false);
     update();
     emit sig_mouseLeaved();
 }
@@ -196,9 +186,7 @@ void NormalProgressBar::leaveEvent(QEvent *)
 void NormalProgressBar::hideEvent(QHideEvent *event)
 {
     cancelDrag();
-    m_heat.stop();
-    m_heat.setDirection(QAbstractAnimation::Forward);
-    m_heat.setCurrentTime(0);
+    m_heat.cool();
     if (m_hoverX >= 0) {
         m_hoverX = -1;
         emit sig_mouseLeaved();

@@ -6,8 +6,9 @@
 
 #include "SeekTrack.h"
 
+#include "ui/HoverHeat.h"
+
 #include <QAbstractSlider>
-#include <QVariantAnimation>
 
 class NormalProgressBar final : public QAbstractSlider {
     Q_OBJECT
@@ -53,10 +54,9 @@ private:
     void hover(int x);
     void cancelDrag();
     void choose(int seconds);
-    void warm(bool up);
 
     QVector<int> m_chapters;
-    QVariantAnimation m_heat;
+    HoverHeat m_heat;
     int m_hoverX{-1};
     int m_beforeDrag{0};
 };

@@ -26,13 +26,10 @@ TransportButton::TransportButton(const QString &icon, int iconSize, QWidget *par
     : QAbstractButton(parent)
     , m_icon(icon)
     , m_iconSize(iconSize)
+    , m_heat(this, kHeatMs, kHeatMs)
 {
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    m_heat.setDuration(kHeatMs);
-    m_heat.setStartValue(0.0);
-    m_heat.setEndValue(1.0);
-    connect(&m_heat, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
 }
 
 void TransportButton::setPrimary(bool primary)
@@ -52,31 +49,22 @@ QSize TransportButton::sizeHint() const
     return {Look::px(kButtonSide), Look::px(kButtonSide)};
 }
 
-void TransportButton::heat(bool up)
-{
-    m_heat.setDirection(up ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
-    if (m_heat.state() != QAbstractAnimation::Running)
-        m_heat.start();
-}
-
 void TransportButton::enterEvent(QEvent *event)
 {
-    heat(true);
+    m_heat.warm(true);
     QAbstractButton::enterEvent(event);
 }
 
 void TransportButton::leaveEvent(QEvent *event)
 {
-    heat(false);
+    m_heat.warm(false);
     QAbstractButton::leaveEvent(event);
 }
 
 void TransportButton::hideEvent(QHideEvent *event)
 {
     // A button swapped for its counterpart is cold when it comes back.
-    m_heat.stop();
-    m_heat.setDirection(QAbstractAnimation::Forward);
-    m_heat.setCurrentTime(0);
+    m_heat.cool();
     QAbstractButton::hideEvent(event);
 }
 
@@ -90,7 +78,7 @@ void TransportButton::paintEvent(QPaintEvent *)
         paintCover(painter);
         return;
     }
-    const bool lit = isEnabled() && (m_heat.currentValue().toDouble() > 0.0 || isDown());
+    const bool lit = isEnabled() && (m_heat.value() > 0.0 || isDown());
     QRgb color = lit ? Look::ControlBright : Look::Control;
     if (isChecked())
         color = lit ? Look::AccentHover : Look::Accent;
@@ -103,7 +91,7 @@ void TransportButton::paintEvent(QPaintEvent *)
 
 void TransportButton::paintGround(QPainter &painter) const
 {
-    const double warmth = isEnabled() ? m_heat.currentValue().toDouble() : 0.0;
+    const double warmth = isEnabled() ? m_heat.value() : 0.0;
     const double radius = m_primary ? height() / 2.0 : Look::px(Look::CornerCard);
     const QRectF ground(rect());
     painter.setPen(Qt::NoPen);

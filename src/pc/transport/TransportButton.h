@@ -4,9 +4,10 @@
 // Never takes the keyboard by a click, and shows the keyboard's cursor when that is in use. GUI thread.
 #pragma once
 
+#include "ui/HoverHeat.h"
+
 #include <QAbstractButton>
 #include <QPixmap>
-#include <QVariantAnimation>
 
 class TransportButton : public QAbstractButton {
     Q_OBJECT
@@ -29,7 +30,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void heat(bool up);
     void paintGround(QPainter &painter) const;
     void paintCover(QPainter &painter) const;
 
@@ -37,5 +37,5 @@ private:
     int m_iconSize;
     bool m_primary{false};
     QPixmap m_cover;
-    QVariantAnimation m_heat;
+    HoverHeat m_heat;
 };

@@ -5,9 +5,12 @@
 #pragma once
 
 #include <QAbstractAnimation>
+#include <QEasingCurve>
 #include <QMap>
 #include <QSharedPointer>
 #include <QString>
+
+#include <functional>
 
 class AnimateObject {
 public:
@@ -32,6 +35,19 @@ public:
     void deleteAll();
     void removeAnimate(const QString &name);
     void runAnimate(const QString &name, bool forward);
+
+protected:
+    // How long a number takes to come and to go, in milliseconds.
+    struct FadeTimes {
+        int in;
+        int out;
+    };
+    // For initAnimate(): the animation of a number between 0.0, gone, and 1.0, fully there. It is built once.
+    void initFade(const QString &name, std::function<void(double)> changed,
+                  std::function<void()> finished = {});
+    // For startAnimate(): takes the number from where it is.
+    void startFade(const QString &name, double from, bool forward, FadeTimes times,
+                   QEasingCurve::Type curve = QEasingCurve::OutCubic);
 
 private:
     QMap<QString, QSharedPointer<QAbstractAnimation>> m_animations;

@@ -15,22 +15,13 @@ public:
     void initAnimate(QString name) override
     {
         ++built;
-        auto animation = QSharedPointer<QVariantAnimation>::create();
-        connect(animation.data(), &QVariantAnimation::valueChanged, this,
-                [this](const QVariant &value) { shown = value.toDouble(); });
-        setAnimate(name, animation);
+        initFade(
+            name, [this](double value) { shown = value; }, [this] { ++ends; });
     }
-    void startAnimate(QString name, bool forward) override
-    {
-        auto *animation = static_cast<QVariantAnimation *>(animate(name));
-        animation->stop();
-        animation->setStartValue(shown);
-        animation->setEndValue(forward ? 1.0 : 0.0);
-        animation->setDuration(200);
-        animation->start();
-    }
+    void startAnimate(QString name, bool forward) override { startFade(name, shown, forward, {200, 200}); }
 
     int built{0};
+    int ends{0};
     double shown{0.0};
 };
 
@@ -95,4 +86,17 @@ TEST(AnimateObjectTest, RemovedAnimationIsStoppedAndForgotten)
     EXPECT_FALSE(panel.hasAnimate(Key));
     panel.runAnimate(Key, true);
     EXPECT_EQ(panel.built, 2);
+}
+
+TEST(AnimateObjectTest, AFadeTellsItsEndAndAStopIsNone)
+{
+    Panel panel;
+    panel.runAnimate(Key, true);
+    panel.animate(Key)->setCurrentTime(200);
+    EXPECT_EQ(panel.shown, 1.0);
+    EXPECT_EQ(panel.ends, 1);
+    panel.runAnimate(Key, false);
+    panel.stopAll();
+    EXPECT_EQ(panel.shown, 1.0);
+    EXPECT_EQ(panel.ends, 1);
 }

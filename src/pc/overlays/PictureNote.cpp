@@ -4,7 +4,6 @@
 
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace {
 
@@ -50,29 +49,17 @@ void PictureNote::dismiss()
 
 void PictureNote::initAnimate(QString name)
 {
-    if (hasAnimate(name))
-        return;
-    auto way = QSharedPointer<QVariantAnimation>::create();
-    connect(way.data(), &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &value) { setShown(value.toDouble()); });
-    connect(way.data(), &QVariantAnimation::finished, this, [this] {
-        if (!m_isOpen)
-            disappear();
-    });
-    setAnimate(name, way);
+    initFade(
+        name, [this](double shown) { setShown(shown); },
+        [this] {
+            if (!m_isOpen)
+                disappear();
+        });
 }
 
 void PictureNote::startAnimate(QString name, bool forward)
 {
-    auto *way = static_cast<QVariantAnimation *>(animate(name));
-    if (!way)
-        return;
-    way->stop();
-    way->setStartValue(m_shown);
-    way->setEndValue(forward ? 1.0 : 0.0);
-    way->setDuration(forward ? Look::FadeInMs : Look::FadeOutMs);
-    way->setEasingCurve(QEasingCurve::OutCubic);
-    way->start();
+    startFade(name, m_shown, forward, {Look::FadeInMs, Look::FadeOutMs});
 }
 
 void PictureNote::setShown(double value)

@@ -17,7 +17,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStandardItemModel>
-#include <QVariantAnimation>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -482,28 +481,17 @@ void NormalPreviewView::arrange()
 
 void NormalPreviewView::initAnimate(QString name)
 {
-    if (hasAnimate(name))
-        return;
-    auto way = QSharedPointer<QVariantAnimation>::create();
-    connect(way.data(), &QVariantAnimation::valueChanged, this, &NormalPreviewView::slot_animateValueChange);
-    connect(way.data(), &QVariantAnimation::finished, this, [this] {
-        if (m_state == State::Closed)
-            disappear();
-    });
-    setAnimate(name, way);
+    initFade(
+        name, [this](double shown) { slot_animateValueChange(shown); },
+        [this] {
+            if (m_state == State::Closed)
+                disappear();
+        });
 }
 
 void NormalPreviewView::startAnimate(QString name, bool forward)
 {
-    auto *way = static_cast<QVariantAnimation *>(animate(name));
-    if (!way)
-        return;
-    way->stop();
-    way->setStartValue(m_shown);
-    way->setEndValue(forward ? 1.0 : 0.0);
-    way->setDuration(forward ? Look::FadeInMs : Look::FadeOutMs);
-    way->setEasingCurve(QEasingCurve::OutCubic);
-    way->start();
+    startFade(name, m_shown, forward, {Look::FadeInMs, Look::FadeOutMs});
 }
 
 void NormalPreviewView::slot_animateValueChange(QVariant value)

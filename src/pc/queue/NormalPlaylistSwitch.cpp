@@ -6,7 +6,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace {
 
@@ -88,25 +87,12 @@ QPainterPath NormalPlaylistSwitch::opaqueShape() const
 
 void NormalPlaylistSwitch::initAnimate(QString name)
 {
-    if (hasAnimate(name))
-        return;
-    auto way = QSharedPointer<QVariantAnimation>::create();
-    connect(way.data(), &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &value) { setWarmth(value.toDouble()); });
-    setAnimate(name, way);
+    initFade(name, [this](double warmth) { setWarmth(warmth); });
 }
 
 void NormalPlaylistSwitch::startAnimate(QString name, bool forward)
 {
-    auto *way = static_cast<QVariantAnimation *>(animate(name));
-    if (!way)
-        return;
-    way->stop();
-    way->setStartValue(m_warmth);
-    way->setEndValue(forward ? 1.0 : 0.0);
-    way->setDuration(forward ? Look::FadeInMs : Look::FadeOutMs);
-    way->setEasingCurve(QEasingCurve::OutCubic);
-    way->start();
+    startFade(name, m_warmth, forward, {Look::FadeInMs, Look::FadeOutMs});
 }
 
 void NormalPlaylistSwitch::setWarmth(double value)

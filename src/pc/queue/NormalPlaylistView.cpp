@@ -17,7 +17,6 @@
 #include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-#include <QVariantAnimation>
 
 namespace {
 
@@ -210,32 +209,24 @@ void NormalPlaylistView::closeNow()
 
 void NormalPlaylistView::initAnimate(QString name)
 {
-    if (hasAnimate(name))
-        return;
-    auto way = QSharedPointer<QVariantAnimation>::create();
-    connect(way.data(), &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &value) { setShown(value.toDouble()); });
-    connect(way.data(), &QVariantAnimation::finished, this, &NormalPlaylistView::hideWhenClosed);
-    setAnimate(name, way);
+    initFade(
+        name, [this](double shown) { setShown(shown); }, [this] { hideWhenClosed(); });
 }
 
 void NormalPlaylistView::startAnimate(QString name, bool forward)
 {
-    auto *way = static_cast<QVariantAnimation *>(animate(name));
-    if (!way)
+    QAbstractAnimation *way = animate(name);
+    if (way == nullptr)
         return;
-    way->stop();
     // Cut to its shape, the card can't move: the window would have to be cut anew at each step.
     if (isCompact()) {
+        way->stop();
         setShown(forward ? 1.0 : 0.0);
         hideWhenClosed();
         return;
     }
-    way->setStartValue(m_shown);
-    way->setEndValue(forward ? 1.0 : 0.0);
-    way->setDuration(forward ? OpenMs : CloseMs);
-    way->setEasingCurve(forward ? QEasingCurve::OutCubic : QEasingCurve::InCubic);
-    way->start();
+    startFade(name, m_shown, forward, {OpenMs, CloseMs},
+              forward ? QEasingCurve::OutCubic : QEasingCurve::InCubic);
 }
 
 void NormalPlaylistView::setShown(double part)

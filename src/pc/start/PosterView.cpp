@@ -10,7 +10,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QVariantAnimation>
 
 namespace {
 
@@ -174,29 +173,18 @@ void PosterView::setOpacityProgress(double progress)
 void PosterView::initAnimate(QString name)
 {
     const bool isPoster = name == QLatin1String(PosterAnimation);
-    auto animation = QSharedPointer<QVariantAnimation>::create();
-    animation->setDuration(kFadeMs);
-    animation->setEasingCurve(QEasingCurve::InOutCubic);
-    connect(animation.data(), &QVariantAnimation::valueChanged, this,
-            [this, isPoster](const QVariant &value) {
-                if (isPoster)
-                    setPosterProgress(value.toDouble());
-                else
-                    setOpacityProgress(value.toDouble());
-            });
-    setAnimate(name, animation);
+    initFade(name, [this, isPoster](double progress) {
+        if (isPoster)
+            setPosterProgress(progress);
+        else
+            setOpacityProgress(progress);
+    });
 }
 
 void PosterView::startAnimate(QString name, bool forward)
 {
-    auto *animation = qobject_cast<QVariantAnimation *>(animate(name));
-    if (animation == nullptr)
-        return;
-    const bool isPoster = name == QLatin1String(PosterAnimation);
-    animation->stop();
-    animation->setStartValue(isPoster ? m_posterProgress : m_opacityProgress);
-    animation->setEndValue(forward ? 1.0 : 0.0);
-    animation->start();
+    const double from = name == QLatin1String(PosterAnimation) ? m_posterProgress : m_opacityProgress;
+    startFade(name, from, forward, {kFadeMs, kFadeMs}, QEasingCurve::InOutCubic);
 }
 
 void PosterView::showEvent(QShowEvent *event)

@@ -27,6 +27,9 @@ public:
     void show(const QString &path);
 
 private:
+    // By the means of the system; waits for them. On the worker.
+    static void showNow(const QString &busAddress, const QString &path, const OpenFolder &openFolder);
+
     QString m_busAddress;
     OpenFolder m_openFolder;
     std::unique_ptr<ThreadWorker> m_worker;

@@ -2,8 +2,6 @@
 
 #include "ScreenSaverInhibitor_linux.h"
 
-#include "core/ThreadWorker.h"
-
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDebug>
@@ -19,7 +17,6 @@ constexpr char kService[] = "org.freedesktop.FileManager1";
 constexpr char kPath[] = "/org/freedesktop/FileManager1";
 // A file manager that has to be started first takes its time.
 constexpr int kCallTimeoutMs = 10000;
-constexpr int kStopMs = 200;
 
 bool openByDesktop(const QString &folder)
 {
@@ -60,15 +57,6 @@ QString nearestFolder(const QString &path)
     return folder.path();
 }
 
-void showNow(const QString &busAddress, const QString &path, const FolderOpener::OpenFolder &openFolder)
-{
-    if (QFileInfo::exists(path) && showByFileManager(busAddress, path))
-        return;
-    const QString folder = nearestFolder(path);
-    if (!openFolder(folder))
-        qInfo().noquote() << "[Folder] could not be opened:" << folder;
-}
-
 } // namespace
 
 FolderOpener::FolderOpener()
@@ -76,23 +64,11 @@ FolderOpener::FolderOpener()
 {
 }
 
-FolderOpener::FolderOpener(const QString &busAddress, OpenFolder openFolder)
-    : m_busAddress(busAddress)
-    , m_openFolder(std::move(openFolder))
+void FolderOpener::showNow(const QString &busAddress, const QString &path, const OpenFolder &openFolder)
 {
-}
-
-FolderOpener::~FolderOpener()
-{
-    if (m_worker)
-        m_worker->stop(kStopMs);
-}
-
-void FolderOpener::show(const QString &path)
-{
-    if (path.isEmpty())
+    if (QFileInfo::exists(path) && showByFileManager(busAddress, path))
         return;
-    if (!m_worker)
-        m_worker = std::make_unique<ThreadWorker>(1);
-    m_worker->addTask([bus = m_busAddress, path, open = m_openFolder] { showNow(bus, path, open); });
+    const QString folder = nearestFolder(path);
+    if (!openFolder(folder))
+        qInfo().noquote() << "[Folder] could not be opened:" << folder;
 }

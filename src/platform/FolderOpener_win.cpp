@@ -1,7 +1,5 @@
 #include "FolderOpener.h"
 
-#include "core/ThreadWorker.h"
-
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
@@ -10,8 +8,6 @@
 #include <windows.h>
 
 namespace {
-
-constexpr int kStopMs = 200;
 
 // By its full path: the search for a bare name begins in the folder of the program.
 QString explorer()
@@ -45,15 +41,6 @@ bool openByExplorer(const QString &folder)
     return start(quoted(folder));
 }
 
-void showNow(const QString &path, const FolderOpener::OpenFolder &openFolder)
-{
-    // Explorer shows the folder by itself where the file is gone.
-    if (start(QStringLiteral("/select,") + quoted(path)))
-        return;
-    if (!openFolder(QFileInfo(path).absolutePath()))
-        qInfo().noquote() << "[Folder] could not be opened:" << path;
-}
-
 } // namespace
 
 FolderOpener::FolderOpener()
@@ -61,23 +48,11 @@ FolderOpener::FolderOpener()
 {
 }
 
-FolderOpener::FolderOpener(const QString &busAddress, OpenFolder openFolder)
-    : m_busAddress(busAddress)
-    , m_openFolder(std::move(openFolder))
+void FolderOpener::showNow(const QString &, const QString &path, const OpenFolder &openFolder)
 {
-}
-
-FolderOpener::~FolderOpener()
-{
-    if (m_worker)
-        m_worker->stop(kStopMs);
-}
-
-void FolderOpener::show(const QString &path)
-{
-    if (path.isEmpty())
+    // Explorer shows the folder by itself where the file is gone.
+    if (start(QStringLiteral("/select,") + quoted(path)))
         return;
-    if (!m_worker)
-        m_worker = std::make_unique<ThreadWorker>(1);
-    m_worker->addTask([path, open = m_openFolder] { showNow(path, open); });
+    if (!openFolder(QFileInfo(path).absolutePath()))
+        qInfo().noquote() << "[Folder] could not be opened:" << path;
 }

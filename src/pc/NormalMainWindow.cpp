@@ -44,10 +44,13 @@
 #include "ui/WindowShadow.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QIcon>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -453,9 +456,21 @@ void NormalMainWindow::slot_opacityProgressChange(QVariant value)
 
 void NormalMainWindow::slot_saveScreenShot(unsigned char *RGBA, int Width, int Height)
 {
-    m_screenshots->write(
-        ScreenshotWriter::copyOf(RGBA, Width, Height),
-        ScreenshotNaming::target(m_settings, ApplicationInfoManager::instance()->picturesFolder()));
+    const QImage picture = ScreenshotWriter::copyOf(RGBA, Width, Height);
+    const ScreenshotNaming::Target target =
+        ScreenshotNaming::target(m_settings, ApplicationInfoManager::instance()->picturesFolder());
+    m_screenshots->write(picture, target);
+    if (target.toClipboard && !picture.isNull()) {
+        m_shotForClipboard = picture;
+        QTimer::singleShot(0, this, &NormalMainWindow::slot_saveClipboard);
+    }
+}
+
+void NormalMainWindow::slot_saveClipboard()
+{
+    const QImage picture = std::exchange(m_shotForClipboard, {});
+    if (!picture.isNull())
+        QGuiApplication::clipboard()->setImage(picture);
 }
 
 // ---- end

@@ -13,6 +13,7 @@
 #include "settings/SettingRow.h"
 #include "ui/AnimateMenu.h"
 
+#include <QImage>
 #include <QPoint>
 #include <QVariant>
 #include <QWidget>
@@ -94,6 +95,8 @@ public slots:
     void slot_resizeFromRightBottom(QPoint pt);
     void slot_updatePosition(QPoint pt);
     void slot_saveScreenShot(unsigned char *RGBA, int Width, int Height);
+    // The picture of the moment that was asked for last.
+    void slot_saveClipboard();
     void slot_responseFocusChange(QWidget *old, QWidget *now);
     void SLOT_haveMouseMove();
     void SLOT_mouseMoveStop();
@@ -188,6 +191,7 @@ private:
     QPlayer *m_player{nullptr};
     QRect m_normalGeometry;
     QSize m_sizeBeforeFit; // empty while no video has changed the size
+    QImage m_shotForClipboard;
     QPoint m_pressedAt;
     bool m_isPressedOnPicture{false};
     bool m_maximizedBeforeFullScreen{false};

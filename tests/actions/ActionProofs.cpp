@@ -101,6 +101,8 @@ Prepare pausedAt(int seconds)
         for (const int place : {seconds / 2, seconds}) {
             rig.player().seek(place);
             (void)rig.reaches(wholeSeconds, QString::number(place));
+            // Until then libmpv tells where it is going to.
+            (void)rig.reaches("seeking", kNo);
         }
         // The place is told before the picture is there, and a step would take the order's place.
         (void)rig.reaches("seeking", kNo);
@@ -355,11 +357,16 @@ std::vector<ActionProof> ActionProofs::ofKeysAlone()
     const Read heard = [](ActionRig &rig) {
         return QString::number(qRound(rig.property("volume").toDouble()));
     };
+    // What the start of the source has still to tell would be taken for an answer to the key.
+    const Read mute = [](ActionRig &rig) {
+        const QString state = rig.property("mute");
+        return state == text(rig.isToldMuted()) ? state : QString();
+    };
     const Read strip = [](ActionRig &rig) { return text(rig.window().overlays()->preview()->isStripOpen()); };
     const Read window = [](ActionRig &rig) { return text(rig.window().isVisible()); };
     return {
-        key(KeyOperate_Mute, property("mute"), kYes),
-        key(KeyOperate_Mute, property("mute"), kNo),
+        key(KeyOperate_Mute, mute, kYes),
+        key(KeyOperate_Mute, mute, kNo),
         key(KeyOperate_VolumeDown, heard, "99"),
         key(KeyOperate_VolumeUp, heard, "100"),
         key(KeyOperate_Down, heard, "99"),

@@ -129,6 +129,7 @@ void ActionRig::close()
     m_answer = nullptr;
     m_window->close();
     m_window.reset();
+    QObject::disconnect(m_toldMute);
     qApp->removeEventFilter(AppEventFilter::instance());
     QPlayer::releaseInstance();
 }
@@ -154,6 +155,9 @@ bool ActionRig::play(const QString &source)
         return true;
     if (!waitFor([control] { return !control->isOpening(); }))
         return false;
+    if (!m_toldMute)
+        m_toldMute = QObject::connect(&player(), &QPlayer::sig_muteChanged, &m_answerTimer,
+                                      [this](bool isMuted) { m_isToldMuted = isMuted; });
     m_window->slot_playSource(file);
     return waitFor([&] {
         return control->currentPath() == file && !control->isOpening() && player().isPlaying()

@@ -46,6 +46,8 @@ public:
 
     // A property of the running play as libmpv has it; "none" without a play.
     [[nodiscard]] QString property(const char *name) const;
+    // What the player has told of the mute by now.
+    [[nodiscard]] bool isToldMuted() const { return m_isToldMuted; }
     // How often the engine's log has the line by now.
     [[nodiscard]] int engineLines(const QString &text) const;
     // Waits until something reads as it should.
@@ -79,4 +81,6 @@ private:
     std::unique_ptr<NormalMainWindow> m_window;
     QTimer m_answerTimer;
     Answer m_answer;
+    QMetaObject::Connection m_toldMute;
+    bool m_isToldMuted{false};
 };

@@ -142,7 +142,7 @@ void NormalMainWindow::pauseWhileMinimized()
         return;
     if (isMinimized()) {
         // The system may tell of it more than once.
-        if (m_isPausedByMinimize || !QPlayer::isMoving(m_player->status())
+        if (m_isPausedByMinimize || !m_player->isPlaying() || m_player->isPaused()
             || !m_settings.valueOr(QLatin1String(SettingsKeys::PC_PausePlay), false))
             return;
         m_isPausedByMinimize = true;

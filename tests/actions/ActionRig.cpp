@@ -3,6 +3,7 @@
 #include "play/OwnEngine.h"
 #include "play/TestClips.h"
 #include "support/Eventually.h"
+#include "support/TestLog.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
@@ -91,6 +92,8 @@ ActionRig::ActionRig()
         if (!m_answer && note != nullptr) {
             for (const QLabel *label : note->findChildren<QLabel *>())
                 ADD_FAILURE() << "nobody expects: " << label->text().toStdString();
+            for (const QString &line : TestLog::infoLines().mid(qMax(0, TestLog::infoLines().size() - 8)))
+                ADD_FAILURE() << line.toStdString();
             note->close();
         }
         if (!m_answer)

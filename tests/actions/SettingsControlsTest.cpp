@@ -229,6 +229,7 @@ TEST_F(SettingsControls, AMinimizedWindowPausesWhatPlaysAndAloneThat)
     // What the user has paused stays so.
     ASSERT_TRUE(m_rig->press(KeyOperate_PlayPause));
     ASSERT_TRUE(m_rig->reaches("pause", "yes"));
+    ASSERT_EVENTUALLY(m_rig->player().isPaused());
     m_rig->window().showMinimized();
     m_rig->window().showNormal();
     ASSERT_NO_FATAL_FAILURE(fence());

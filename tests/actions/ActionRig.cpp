@@ -117,6 +117,11 @@ void ActionRig::open()
     // A window that has gone has ended the application; a loop that has run to its end takes that back.
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
+    // The sound is set up before the first source and not beside it.
+    const QString device = QLatin1String(SettingsKeys::PC_DefaultAudioDeviceName);
+    if (!settings().contains(device))
+        settings().setValue(device, QStringLiteral("Autoselect device"));
+    settings().setValue(QLatin1String(SettingsKeys::PC_AudioAutomatic), false);
     m_window = std::make_unique<NormalMainWindow>(nullptr, true);
     auto *filter = AppEventFilter::instance();
     filter->setIsPcMode(true);

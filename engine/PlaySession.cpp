@@ -87,7 +87,11 @@ void PlaySession::run()
     m_appliedPicture = PictureOptions::build(m_preferences, m_picture);
     options.insert(m_appliedPicture.begin(), m_appliedPicture.end());
     options["pause"] = !m_request.autoStart;
-    m_passThrough = !options["audio-spdif"].text().empty();
+    for (auto &[name, value] : m_sound) {
+        if (const auto given = options.find(name); given != options.end())
+            value = given->second;
+    }
+    m_passThrough = !m_sound[PassThroughOption].text().empty();
     m_mpv = m_context.spare ? m_context.spare->take(options) : MpvHandle::create(options);
     std::mutex idle;
     std::condition_variable woken;

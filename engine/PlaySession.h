@@ -157,6 +157,8 @@ private:
     void applyShader();
     void applyTap();
     void applyOverlay();
+    void setSound(const std::string &name, const MpvValue &value);
+    void applyWaitingSound();
     void shaderRefused();
     void watchPassThrough();
 
@@ -238,6 +240,11 @@ private:
     std::unique_ptr<PcmTap> m_tap;
     int m_tapStream{-1};
     bool m_passThrough{false};
+    // What libmpv sets up its sound anew for, as it has it. One that changes while the source is being opened
+    // waits for the start: libmpv loses a start under which its sound is taken away.
+    static constexpr char PassThroughOption[] = "audio-spdif";
+    MpvMap m_sound{{"audio-device", "auto"}, {"audio-channels", "auto-safe"}, {PassThroughOption, ""}};
+    MpvMap m_waitingSound;
     double m_lastProgress{0};
     EngineThread::Clock::time_point m_progressAt;
 };

@@ -396,7 +396,24 @@ void PlaySession::watchPassThrough()
         return;
     engineLog("[Play] the sound device does not take compressed sound: it is decoded instead");
     m_passThrough = false;
-    m_mpv->set("audio-spdif", "");
+    m_sound[PassThroughOption] = "";
+    m_mpv->set(PassThroughOption, "");
+}
+
+void PlaySession::setSound(const std::string &name, const MpvValue &value)
+{
+    m_sound[name] = value;
+    if (name == PassThroughOption)
+        m_passThrough = !value.text().empty();
+    m_mpv->set(name, value);
+}
+
+void PlaySession::applyWaitingSound()
+{
+    for (const auto &[name, value] : std::exchange(m_waitingSound, {})) {
+        if (value.text() != m_sound[name].text())
+            setSound(name, value);
+    }
 }
 
 void PlaySession::optionChanged(const std::string &name, const MpvValue &value)
@@ -404,8 +421,13 @@ void PlaySession::optionChanged(const std::string &name, const MpvValue &value)
     post([this, name, value] {
         if (!m_mpv)
             return;
-        if (name == "audio-spdif")
-            m_passThrough = !value.text().empty();
+        if (m_sound.count(name) > 0) {
+            if (m_state == State::Opening)
+                m_waitingSound[name] = value;
+            else
+                setSound(name, value);
+            return;
+        }
         m_mpv->set(name, value);
         // Files that are read already keep their characters otherwise; libmpv refuses where there is none.
         if (name == "sub-codepage")

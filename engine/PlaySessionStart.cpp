@@ -136,6 +136,7 @@ void PlaySession::announceStart()
     checkHardware();
     tellTime();
     startPolling();
+    applyWaitingSound();
     applyPicture();
     applyTap();
     applyOverlay();

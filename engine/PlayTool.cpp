@@ -85,6 +85,8 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
     if (const std::string sound = environment("ORBIX_AO"); !sound.empty())
         set("ao", sound);
     set("audio-client-name", clientName);
+    // From the first source on, so that the same wish of the player's later takes no sound away.
+    set("audio-channels", AudioOutputs::channelLayouts(m_speakerLayout));
     std::int64_t window = 0;
     if (void *block = toolConfig ? toolConfig->nativeWindow() : nullptr)
         window = static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(*static_cast<void **>(block)));

@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QDebug>
 #include <QThread>
 #include <QX11Info>
 
@@ -19,10 +18,14 @@ constexpr char kXPlatform[] = "xcb";
 
 constexpr int kLostStatus = 1;
 
-// Any thread that has a connection of its own.
+QtMessageHandler s_nextHandler{nullptr};
+
+// Any thread that has a connection of its own. A line of qInfo() would not get into the log from within the
+// handler of messages.
 [[noreturn]] void leave()
 {
-    qInfo() << "[Process] the display is gone";
+    if (s_nextHandler != nullptr)
+        s_nextHandler(QtInfoMsg, QMessageLogContext(), QStringLiteral("[Process] the display is gone"));
     std::_Exit(kLostStatus);
 }
 
@@ -39,8 +42,6 @@ bool isConnectionLost()
     xcb_connection_t *connection = QX11Info::connection();
     return connection != nullptr && xcb_connection_has_error(connection) != 0;
 }
-
-QtMessageHandler s_nextHandler{nullptr};
 
 // The toolkit notices on the main thread, says so and asks the process to exit in the usual way. Its word is
 // the last moment before the tear-down begins, with the libraries that were loaded last.

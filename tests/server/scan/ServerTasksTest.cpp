@@ -141,9 +141,11 @@ protected:
 
 TEST_F(ServerTasksTest, UpdatesOneLibraryAndAsksTheProviderThen)
 {
-    m_bench.sound("A/one.mp3");
+    m_bench.sound("A/stuck.mp3");
     m_tasks->update(FakeStore::MusicLibrary);
+    ASSERT_EVENTUALLY(m_bench.reader->held() == 1);
     EXPECT_FALSE(m_tasks->isScanFinished());
+    m_bench.reader->release();
     ASSERT_EVENTUALLY(m_tasks->isScanFinished() && m_rounds == 1);
     EXPECT_EQ(m_store.songs().size(), 1);
     EXPECT_EQ(m_store.finishedScans(), 1);

@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kLongestWaitMs = 10000;
@@ -172,11 +174,9 @@ QVector<StandInServer::Request> StandInServer::requests() const
 
 int StandInServer::countOf(const QByteArray &path) const
 {
-    int count = 0;
-    const QVector<Request> all = requests();
-    for (const Request &request : all)
-        count += request.target.contains(path) ? 1 : 0;
-    return count;
+    std::lock_guard lock(m_mutex);
+    return int(std::count_if(m_requests.begin(), m_requests.end(),
+                             [&path](const Request &request) { return request.target.contains(path); }));
 }
 
 int StandInServer::connections() const
@@ -187,5 +187,5 @@ int StandInServer::connections() const
 
 bool StandInServer::waitForRequests(int count) const
 {
-    return QTest::qWaitFor([&] { return requests().size() >= count; }, kLongestWaitMs);
+    return QTest::qWaitFor([&] { return countOf({}) >= count; }, kLongestWaitMs);
 }

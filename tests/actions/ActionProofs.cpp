@@ -169,6 +169,8 @@ void withoutShots(ActionRig &rig)
     QDir(rig.path(QStringLiteral("shots"))).removeRecursively();
     QDir().mkpath(rig.path(QStringLiteral("shots")));
     rig.settings().setValue(QLatin1String(SettingsKeys::PC_SnapShotPath), rig.path(QStringLiteral("shots")));
+    // What was turned before is shown upright again some time after it was asked for.
+    (void)rig.reaches("video-out-params/rotate", QStringLiteral("0"));
 }
 
 // ---- where the effects are

@@ -241,7 +241,7 @@ private:
     int m_tapStream{-1};
     bool m_passThrough{false};
     // What libmpv sets up its sound anew for, as it has it. One that changes while the source is being opened
-    // waits for the start: libmpv loses a start under which its sound is taken away.
+    // waits for the start, so that the sound is not taken away under it.
     static constexpr char PassThroughOption[] = "audio-spdif";
     MpvMap m_sound{{"audio-device", "auto"}, {"audio-channels", "auto-safe"}, {PassThroughOption, ""}};
     MpvMap m_waitingSound;

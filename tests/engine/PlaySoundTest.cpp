@@ -74,7 +74,7 @@ TEST_F(PlaySound, DelayAndChannels)
     EXPECT_TRUE(m_rig.waitForProperty("audio-channels", "5.1,stereo"));
 }
 
-// Each of these makes libmpv take its sound away and begin anew, which it does not survive while it starts.
+// Each of these makes libmpv take its sound away and begin anew.
 TEST_F(PlaySound, WhatIsAskedOfTheSoundWhileASourceIsOpenedComesAfterItsStart)
 {
     const VDAudioDeviceList *list = nullptr;

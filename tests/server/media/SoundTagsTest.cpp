@@ -186,6 +186,53 @@ TEST_F(SoundTagsTest, ReadsId3v1InTheLocalCharset)
     EXPECT_EQ(SoundTags::read(path("a.mp3"), MediaDeadline(), cyrillic).artist, word);
 }
 
+TEST_F(SoundTagsTest, FramesOfId3v2AreNumbersOfGenresListsAndPartsOfDates)
+{
+    using Text = TagLib::ID3v2::TextIdentificationFrame;
+    SampleClips::copy("mp3", path("a.mp3"));
+    {
+        TagLib::MPEG::File file(name("a.mp3").constData());
+        file.strip();
+        const auto add = [&file](const char *frame, const TagLib::StringList &values) {
+            auto *text = new Text(frame, TagLib::String::UTF16);
+            text->setText(values);
+            file.ID3v2Tag(true)->addFrame(text);
+        };
+        add("TIT2", TagLib::StringList("Title"));
+        add("TCON", TagLib::StringList("17").append(TagLib::StringList("Chamber")));
+        add("TPE1", TagLib::StringList("One").append(TagLib::StringList("Two")));
+        add("TPE1", TagLib::StringList("Three"));
+        add("TRCK", TagLib::StringList("3/12"));
+        add("TPOS", TagLib::StringList("2/2"));
+        add("TDRC", TagLib::StringList("2004-05-01T10:00:00"));
+        ASSERT_TRUE(file.save(TagLib::MPEG::File::ID3v2));
+    }
+    const SoundTags tags = read(path("a.mp3"));
+    EXPECT_EQ(tags.title, "Title");
+    EXPECT_EQ(tags.genre, "Rock, Chamber");
+    EXPECT_EQ(tags.artist, "One; Two; Three");
+    EXPECT_EQ(tags.track, 3);
+    EXPECT_EQ(tags.disc, 2);
+    EXPECT_EQ(tags.year, 2004);
+}
+
+TEST_F(SoundTagsTest, AUserTextOfId3v2StandsForThePropertyThatItNames)
+{
+    SampleClips::copy("mp3", path("a.mp3"));
+    {
+        TagLib::MPEG::File file(name("a.mp3").constData());
+        file.strip();
+        auto *text = new TagLib::ID3v2::UserTextIdentificationFrame(TagLib::String::UTF16);
+        text->setDescription("ALBUMARTIST");
+        text->setText("Several");
+        file.ID3v2Tag(true)->addFrame(text);
+        file.ID3v2Tag()->setTitle("Title");
+        ASSERT_TRUE(file.save(TagLib::MPEG::File::ID3v2));
+    }
+    EXPECT_EQ(read(path("a.mp3")).albumArtist, "Several");
+    EXPECT_EQ(read(path("a.mp3")).title, "Title");
+}
+
 TEST_F(SoundTagsTest, LeavesUnicodeTagsAlone)
 {
     SampleClips::copy("flac", path("a.flac"));

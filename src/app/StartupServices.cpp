@@ -126,6 +126,8 @@ QStringList StartupServices::createApplication()
     // No window holds OpenGL children: without this Qt reads the whole OpenGL stack before it shows the
     // first, which costs a quarter of the start and 50 MB.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    // Beside all that follows: the engine stands on some hundred libraries.
+    LibraryEngineLoader::warmUp();
     m_application = std::make_unique<SingleApplication>(m_argc, m_argv);
     WindowSystem::endWithDisplay();
     m_application->setOutsideSourceSink([] {
@@ -195,10 +197,7 @@ void StartupServices::runFullUninstall()
 bool StartupServices::isFirstCopy(const QStringList &arguments)
 {
     m_guard = std::make_unique<SingleInstance>();
-    if (m_guard->start(*m_application, arguments) != SingleInstance::Outcome::First)
-        return false;
-    LibraryEngineLoader::warmUp();
-    return true;
+    return m_guard->start(*m_application, arguments) == SingleInstance::Outcome::First;
 }
 
 void StartupServices::writeBanner(const QStringList &arguments)

@@ -17,9 +17,6 @@
 #include <QFileInfo>
 #include <QTimer>
 
-#include <mutex>
-#include <optional>
-
 namespace {
 
 constexpr int kTracksAfterMs = 1000;
@@ -28,17 +25,6 @@ constexpr char kStatistics[] = "PlayInfo";
 constexpr char kVideo[] = "Video";
 constexpr char kAudio[] = "Audio";
 constexpr char kPlayMode[] = "PC";
-
-PositionStore::Stop stopOf(const vdStopPlayInfo &info, const QImage &lastFrame)
-{
-    PositionStore::Stop stop;
-    stop.path = QString::fromUtf8(info.path);
-    stop.positionMs = info.positionMs;
-    stop.totalMs = info.totalMs;
-    stop.reachedEnd = info.reachedEnd != 0;
-    stop.lastFrame = lastFrame;
-    return stop;
-}
 
 } // namespace
 
@@ -63,6 +49,7 @@ NormalPlayControl::~NormalPlayControl()
 void NormalPlayControl::connectPlayer(QPlayer *player)
 {
     m_player = player;
+    m_lastStop.connectPlayer(player);
     connect(player, &QPlayer::sig_playStatusChanged, this, &NormalPlayControl::slot_responsePlayState);
     connect(player, &QPlayer::sig_stopInfoChanged, this, &NormalPlayControl::slot_responseStopInfo);
     connect(player, &QPlayer::sig_videoInfoChanged, this, &NormalPlayControl::slot_responseVideoInfo);
@@ -140,20 +127,10 @@ void NormalPlayControl::shutDown()
     if (m_isClosing)
         return;
     m_isClosing = true;
-    std::mutex mutex;
-    std::optional<PositionStore::Stop> last;
-    QMetaObject::Connection lastStop;
     if (m_player != nullptr) {
         disconnect(m_player, nullptr, this, nullptr);
         // No queued slot runs any more, but where this source was left is still to be kept.
-        QPlayer *player = m_player;
-        lastStop = connect(
-            m_player, &QPlayer::sig_stopInfoChanged, this,
-            [player, &mutex, &last](const vdStopPlayInfo &info) {
-                const std::lock_guard lock(mutex);
-                last = stopOf(info, player->lastFrame());
-            },
-            Qt::DirectConnection);
+        m_lastStop.begin();
         // Also ends an open that hangs on its disc.
         m_player->stop();
     }
@@ -161,10 +138,8 @@ void NormalPlayControl::shutDown()
     m_stopThread.wait();
     if (m_player != nullptr)
         m_player->stop();
-    disconnect(lastStop);
     m_hasSource = false;
-    const std::lock_guard lock(mutex);
-    if (last)
+    if (const auto last = m_lastStop.end())
         m_positions.record(*last, last->path.size() == 1 ? m_displayName : QString());
 }
 
@@ -251,7 +226,8 @@ void NormalPlayControl::followEnd(const QString &nextEpisode, bool isThere)
 
 void NormalPlayControl::slot_responseStopInfo(vdStopPlayInfo info)
 {
-    const PositionStore::Stop stop = stopOf(info, m_player != nullptr ? m_player->lastFrame() : QImage());
+    const PositionStore::Stop stop =
+        LastStop::stopOf(info, m_player != nullptr ? m_player->lastFrame() : QImage());
     m_positions.record(stop, stop.path.size() == 1 ? m_displayName : QString());
     PlayInfoStatisticsHelper::instance()->note(
         QLatin1String(kStatistics), StatisticName::stop(m_player->fileTypeText(), m_player->mediaTypeText()),

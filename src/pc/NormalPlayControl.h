@@ -5,6 +5,8 @@
 // threads, not the settings and not the set-up of the engine.
 #pragma once
 
+#include "LastStop.h"
+
 #include "core/QSimpleThreadPack.h"
 #include "playcontrol/FilePresence.h"
 #include "playcontrol/MenuCase.h"
@@ -115,6 +117,7 @@ private:
     DeferredSetup &m_setUp;
     PlaySourcePath m_paths;
     PositionStore m_positions;
+    LastStop m_lastStop;
     QPlayer *m_player{nullptr};
     QSimpleThreadPack m_playThread;
     QSimpleThreadPack m_stopThread;

@@ -1,17 +1,20 @@
 #include "EngineLoader.h"
 
-#include "core/ApplicationInfoManager.h"
+#include "platform/LibraryNeeds.h"
+#include "platform/ProgramFolder.h"
 
-#include <QThread>
+#include <QDebug>
+#include <QFileInfo>
+
+#include <system_error>
+#include <thread>
 
 namespace {
 
 QString defaultFile()
 {
     const QString chosen = qEnvironmentVariable("QUORIN_ENGINE");
-    return chosen.isEmpty()
-               ? ApplicationInfoManager::instance()->applicationFolder() + QStringLiteral("/Orbix")
-               : chosen;
+    return chosen.isEmpty() ? programFolder() + QStringLiteral("/Orbix") : chosen;
 }
 
 } // namespace
@@ -28,12 +31,18 @@ LibraryEngineLoader::LibraryEngineLoader(const QString &file)
 
 void LibraryEngineLoader::warmUp()
 {
-    QThread *reader = QThread::create([file = defaultFile()] {
+    const auto read = [file = defaultFile()] {
+        const QFileInfo named(file);
+        LibraryNeeds::load(
+            named.isFile() ? file : QStringLiteral("%1/lib%2.so").arg(named.path(), named.fileName()));
         // Not unloaded at the end of the object: whoever plays takes it over.
         QLibrary(file).load();
-    });
-    QObject::connect(reader, &QThread::finished, reader, &QObject::deleteLater);
-    reader->start();
+    };
+    try {
+        std::thread(read).detach();
+    } catch (const std::system_error &error) {
+        qInfo() << "[Engine] nothing is read ahead:" << error.what();
+    }
 }
 
 bool LibraryEngineLoader::load()

@@ -32,7 +32,7 @@ public:
 
     // Reads the default library in the background, so that the load that follows finds it in memory: it
     // stands on some hundred other libraries, and the program has other things to do meanwhile. A failure is
-    // left to that load to tell.
+    // left to that load to tell. Needs no application object.
     static void warmUp();
 
     [[nodiscard]] bool load() override;

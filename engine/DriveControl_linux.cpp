@@ -61,4 +61,34 @@ State state(const std::string &path)
     }
 }
 
+// The drive's own answer to the question whether its medium is ready.
+Medium deviceMedium(const std::string &path)
+{
+    switch (DriveHandle(path).call(CDROM_DRIVE_STATUS, CDSL_CURRENT)) {
+    case CDS_DISC_OK:
+        return Medium::Present;
+    case CDS_NO_DISC:
+    case CDS_TRAY_OPEN:
+        return Medium::None;
+    default:
+        return Medium::Unknown;
+    }
+}
+
+// By the table of contents, which a blank disc lacks.
+bool isDeviceReadable(const std::string &path)
+{
+    switch (DriveHandle(path).call(CDROM_DISC_STATUS, 0)) {
+    case CDS_AUDIO:
+    case CDS_DATA_1:
+    case CDS_DATA_2:
+    case CDS_XA_2_1:
+    case CDS_XA_2_2:
+    case CDS_MIXED:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace DriveControl

@@ -21,10 +21,11 @@ wchar_t driveLetter(const std::string &path)
 
 class DriveHandle final {
 public:
-    explicit DriveHandle(wchar_t letter)
+    // access: to ask for the attributes alone mounts no disc.
+    explicit DriveHandle(wchar_t letter, DWORD access = GENERIC_READ)
     {
         const std::wstring device = std::wstring(L"\\\\.\\") + letter + L":";
-        m_file = CreateFileW(device.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+        m_file = CreateFileW(device.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                              OPEN_EXISTING, 0, nullptr);
     }
     ~DriveHandle()
@@ -77,6 +78,39 @@ State state(const std::string &path)
     if (!isOptical(letter))
         return NoDrive;
     return DriveHandle(letter).call(IOCTL_STORAGE_CHECK_VERIFY) ? HasDisc : NoDisc;
+}
+
+Medium deviceMedium(const std::string &path)
+{
+    const wchar_t letter = driveLetter(path);
+    if (!letter || !isOptical(letter))
+        return Medium::None;
+    const DriveHandle drive(letter, FILE_READ_ATTRIBUTES);
+    if (drive.call(IOCTL_STORAGE_CHECK_VERIFY2))
+        return Medium::Present;
+    switch (GetLastError()) {
+    case ERROR_NOT_READY:
+    case ERROR_NO_MEDIA_IN_DRIVE:
+        return Medium::None;
+    default:
+        return Medium::Unknown;
+    }
+}
+
+// By the file system, which a blank disc lacks.
+bool isDeviceReadable(const std::string &path)
+{
+    const wchar_t letter = driveLetter(path);
+    if (!letter)
+        return false;
+    const std::wstring root = std::wstring(1, letter) + L":\\";
+    // A disc that goes while it is asked for must raise no message of the system.
+    DWORD before = 0;
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before);
+    const bool isReadable =
+        GetVolumeInformationW(root.c_str(), nullptr, 0, nullptr, nullptr, nullptr, nullptr, 0) != 0;
+    SetThreadErrorMode(before, nullptr);
+    return isReadable;
 }
 
 } // namespace DriveControl

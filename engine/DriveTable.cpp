@@ -42,6 +42,22 @@ void DriveTable::bind(char letter, std::string path)
         m_bound[name] = std::move(path);
 }
 
+std::vector<DriveTable::Place> DriveTable::places() const
+{
+    std::map<char, Place> byLetter;
+    for (const auto &[letter, path] : ownOpticalDrives())
+        byLetter[letter] = {letter, path, false};
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        for (const auto &[letter, path] : m_bound)
+            byLetter[letter] = {letter, path, true};
+    }
+    std::vector<Place> places;
+    for (auto &[letter, place] : byLetter)
+        places.push_back(std::move(place));
+    return places;
+}
+
 bool DriveTable::hasDrive(char letter) const
 {
     return letterOf(std::string(1, letter)) != 0 && !resolve(std::string(1, letter)).empty();

@@ -7,9 +7,16 @@
 #include <map>
 #include <mutex>
 #include <string>
+#include <vector>
 
 class DriveTable final {
 public:
+    struct Place {
+        char letter = 0;
+        std::string path;
+        bool isBound = false;
+    };
+
     DriveTable() = default;
     DriveTable(const DriveTable &) = delete;
     DriveTable &operator=(const DriveTable &) = delete;
@@ -22,6 +29,9 @@ public:
     // ignored.
     void bind(char letter, std::string path);
 
+    // The optical drives of this machine and all bound letters, by letter.
+    [[nodiscard]] std::vector<Place> places() const;
+
     // True for a letter with something behind it.
     [[nodiscard]] bool hasDrive(char letter) const;
 
@@ -29,7 +39,9 @@ public:
     [[nodiscard]] static char letterOf(const std::string &pathOrLetter);
 
 private:
+    // Any drive of this machine, and the optical ones among them.
     [[nodiscard]] static std::string ownDrive(char letter);
+    [[nodiscard]] static std::map<char, std::string> ownOpticalDrives();
 
     mutable std::mutex m_mutex;
     std::map<char, std::string> m_bound;

@@ -10,6 +10,7 @@ namespace {
 
 // First letter that an optical drive of this machine takes; the others follow in the order of their devices.
 constexpr char FirstLetter = 'D';
+constexpr char LastLetter = 'Z';
 
 std::vector<int> opticalDevices()
 {
@@ -31,8 +32,19 @@ std::vector<int> opticalDevices()
 
 std::string DriveTable::ownDrive(char letter)
 {
-    const std::vector<int> devices = opticalDevices();
-    if (letter < FirstLetter || static_cast<std::size_t>(letter - FirstLetter) >= devices.size())
-        return {};
-    return "/dev/sr" + std::to_string(devices[static_cast<std::size_t>(letter - FirstLetter)]);
+    const std::map<char, std::string> drives = ownOpticalDrives();
+    const auto found = drives.find(letter);
+    return found == drives.end() ? std::string() : found->second;
+}
+
+std::map<char, std::string> DriveTable::ownOpticalDrives()
+{
+    std::map<char, std::string> drives;
+    char letter = FirstLetter;
+    for (const int number : opticalDevices()) {
+        if (letter > LastLetter)
+            break;
+        drives[letter++] = "/dev/sr" + std::to_string(number);
+    }
+    return drives;
 }

@@ -50,4 +50,24 @@ TEST(DriveTable, WhatIsNoLetterIsNotBound)
     EXPECT_EQ(drives.resolve("\xe4"), "\xe4");
 }
 
+TEST(DriveTable, ThePlacesAreTheMachinesOpticalDrivesAndAllThatIsBound)
+{
+    DriveTable drives;
+    const std::size_t own = drives.places().size();
+    drives.bind('b', "/discs/b.iso");
+    drives.bind('A', "/discs/a");
+    std::vector<DriveTable::Place> places = drives.places();
+    ASSERT_EQ(places.size(), own + 2);
+    EXPECT_EQ(places[0].letter, 'A');
+    EXPECT_EQ(places[1].letter, 'B');
+    EXPECT_EQ(places[1].path, "/discs/b.iso");
+    EXPECT_TRUE(places[1].isBound);
+    drives.bind('A', "");
+    places = drives.places();
+    ASSERT_EQ(places.size(), own + 1);
+    EXPECT_EQ(places[0].letter, 'B');
+    for (const DriveTable::Place &place : places)
+        EXPECT_EQ(drives.resolve(std::string(1, place.letter)), place.path);
+}
+
 } // namespace

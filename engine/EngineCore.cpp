@@ -42,6 +42,7 @@ Result guarded(const char *name, Result failure, Operation operation)
 EngineCore::EngineCore(libvp::IVDPlayerConfig *config, libvp::IVDOrbixCallback *callback)
     : m_config(config)
     , m_callback(callback)
+    , m_watch(m_drives, m_notifier, callback)
     , m_backups(m_drives)
 {
     // The default of the decoding libraries writes to standard error of a process that is not ours.
@@ -50,6 +51,7 @@ EngineCore::EngineCore(libvp::IVDPlayerConfig *config, libvp::IVDOrbixCallback *
 
 EngineCore::~EngineCore()
 {
+    m_watch.stop();
     m_backups.stopAll();
     m_thumbnails.closeAll();
     m_tool.reset();
@@ -63,6 +65,7 @@ bool EngineCore::initialise()
         EngineLog::instance().open(textOf(m_config->path(LogFolder)));
         engineLog("[Engine] %s %s, level %d", textOf(m_config->productName()).c_str(),
                   textOf(m_config->productVersion()).c_str(), m_config->featureLevel());
+        m_watch.start();
         return true;
     });
 }
@@ -73,7 +76,7 @@ libvp::IVDPlayTool *EngineCore::createPlayTool(int, libvp::IVDPlayToolConfig *co
     return guarded<libvp::IVDPlayTool *>("createPlayTool", nullptr, [&]() -> libvp::IVDPlayTool * {
         const std::lock_guard<std::mutex> lock(m_toolMutex);
         if (!m_tool)
-            m_tool = std::make_unique<PlayTool>(m_config, m_callback, config, callback, m_drives);
+            m_tool = std::make_unique<PlayTool>(m_config, m_callback, config, callback, m_watch, m_notifier);
         return m_tool.get();
     });
 }

@@ -1,4 +1,5 @@
-// The engine object: owns the output, the thumbnail sessions, the pictures handed out and the backups.
+// The engine object: owns the output, the watch over the drives, the thread that raises all notifications,
+// the thumbnail sessions, the pictures handed out and the backups.
 //
 // One a process, made by CreateVDPlayer(). Every operation may be called from any thread; what waits says so
 // in the contract, and none holds a lock that another operation needs while it waits.
@@ -6,6 +7,8 @@
 
 #include "DiscBackups.h"
 #include "DriveTable.h"
+#include "DriveWatch.h"
+#include "Notifier.h"
 #include "PictureStore.h"
 #include "ThumbnailSessions.h"
 
@@ -45,6 +48,8 @@ private:
     libvp::IVDPlayerConfig *m_config;
     libvp::IVDOrbixCallback *m_callback;
     DriveTable m_drives;
+    Notifier m_notifier;
+    DriveWatch m_watch;
     PictureStore m_pictures;
     ThumbnailSessions m_thumbnails;
     DiscBackups m_backups;

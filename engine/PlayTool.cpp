@@ -2,7 +2,6 @@
 
 #include "DiscReader.h"
 #include "DriveControl.h"
-#include "DriveTable.h"
 #include "PlayToolTables.h"
 #include "SubtitleStyle.h"
 #include "ToolArguments.h"
@@ -60,10 +59,11 @@ std::string escaped(const std::string &text)
 } // namespace
 
 PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayToolConfig *toolConfig,
-                   IVDPlaytoolCallback *callback, DriveTable &drives)
+                   IVDPlaytoolCallback *callback, DriveWatch &watch, Notifier &notifier)
     : m_config(config)
     , m_callback(callback)
-    , m_drives(drives)
+    , m_watch(watch)
+    , m_drives(watch.drives())
     , m_outputs([this] {
         MpvValue list = m_spare.read("audio-device-list");
         if (!list.isNone())
@@ -71,6 +71,7 @@ PlayTool::PlayTool(IVDPlayerConfig *config, IVDOrbixCallback *orbix, IVDPlayTool
         const auto probe = MpvHandle::create(m_settings.options());
         return probe ? probe->readNow("audio-device-list") : MpvValue();
     })
+    , m_notifier(notifier)
     , m_line(m_notifier.openLine())
 {
     m_context.settings = &m_settings;
@@ -282,7 +283,7 @@ bool PlayTool::setDrive(const char *property, const char *path)
     if (name.size() != prefix.size() + 1 || name.compare(0, prefix.size(), prefix) != 0
         || !std::isalpha(static_cast<unsigned char>(name.back())))
         return false;
-    m_drives.bind(name.back(), textOf(path));
+    m_watch.bind(name.back(), textOf(path));
     return true;
 }
 
@@ -332,8 +333,7 @@ bool PlayTool::discDisplayInfo(const char *drive, VDDiscDisplayInfo *info)
 
 bool PlayTool::eject(char drive)
 {
-    const std::string path = m_drives.resolve(std::string(1, drive));
-    return !path.empty() && DriveControl::eject(path);
+    return m_watch.eject(drive);
 }
 
 int PlayTool::discState(char drive)

@@ -1,14 +1,14 @@
 // The output: keeps what the player sets, for the running play and for later ones, and makes the plays.
 //
-// Owned by the engine core. Owns the settings, the thread that raises all notifications, and the plays. May
-// be used from any thread.
+// Owned by the engine core, whose notifier and drives it uses. Owns the settings and the plays. May be used
+// from any thread.
 #pragma once
 
 #include "AudioOutputs.h"
+#include "DriveWatch.h"
 #include "EngineSettings.h"
 #include "LogOnce.h"
 #include "MpvSpare.h"
-#include "Notifier.h"
 #include "Play.h"
 #include "ResumeMemory.h"
 
@@ -21,7 +21,8 @@
 class PlayTool final : public libvp::IVDPlayTool {
 public:
     PlayTool(libvp::IVDPlayerConfig *config, libvp::IVDOrbixCallback *orbix,
-             libvp::IVDPlayToolConfig *toolConfig, libvp::IVDPlaytoolCallback *callback, DriveTable &drives);
+             libvp::IVDPlayToolConfig *toolConfig, libvp::IVDPlaytoolCallback *callback, DriveWatch &watch,
+             Notifier &notifier);
     // Ends the plays that are left.
     ~PlayTool();
     PlayTool(const PlayTool &) = delete;
@@ -122,12 +123,13 @@ private:
 
     libvp::IVDPlayerConfig *m_config;
     libvp::IVDPlaytoolCallback *m_callback;
+    DriveWatch &m_watch;
     DriveTable &m_drives;
     LogOnce m_log;
     EngineSettings m_settings;
     ResumeMemory m_resume;
     AudioOutputs m_outputs;
-    Notifier m_notifier;
+    Notifier &m_notifier;
     Notifier::LinePtr m_line;
     MpvSpare m_spare;
     PlayContext m_context;

@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <condition_variable>
 #include <cstring>
+#include <mutex>
 #include <thread>
 
 namespace {
@@ -48,8 +50,27 @@ class Notes final : public IVDOrbixCallback {
 public:
     void OnError(VD_ErrorCallbackType) override {}
     void reserved2(int, int) override {}
-    void OnDiscEvent(char, VD_OPTRA_DISC_NOTIFY_TYPE) override {}
+    void OnDiscEvent(char drive, VD_OPTRA_DISC_NOTIFY_TYPE type) override
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_discEvents += drive + std::to_string(int(type)) + ' ';
+        }
+        m_changed.notify_all();
+    }
     void OnDiscError(char, VD_OPTRA_DISC_ERROR_TYPE) override {}
+
+    // Waits until these and no others have come: "K1 K3 " is a disc that has arrived in K and is ready.
+    [[nodiscard]] bool waitForDiscEvents(const std::string &events)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, std::chrono::seconds(20), [&] { return m_discEvents == events; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::string m_discEvents;
 };
 
 // The engine as the player has it: by the two exported functions alone.
@@ -219,6 +240,27 @@ TEST_F(EngineCoreTest, BacksUpADisc)
     EXPECT_FALSE(m_core->startBackup(disc.constData(), target.constData(), 0)) << "the target exists";
     EXPECT_FALSE(m_core->startBackup(nullptr, nullptr, 0));
     m_core->stopBackup(nullptr);
+}
+
+TEST_F(EngineCoreTest, ADiscThatComesAndGoesIsTold)
+{
+    qputenv("ORBIX_VO", "null");
+    IVDPlayTool *tool = m_core->createPlayTool(0, nullptr, nullptr);
+    qunsetenv("ORBIX_VO");
+    ASSERT_TRUE(tool);
+    const QString disc = m_folder.filePath("disc.iso");
+    ASSERT_TRUE(tool->setStringProperty("disc.drive.K", disc.toUtf8().constData()));
+    QElapsedTimer timer;
+    timer.start();
+    while (!log().contains("[Drive] K: is empty") && timer.elapsed() < 20000)
+        std::this_thread::yield();
+    ASSERT_TRUE(log().contains("[Drive] K: is empty"));
+    ASSERT_TRUE(QFile::copy(TestDiscs::dvdImage(), m_folder.filePath("copy")));
+    ASSERT_TRUE(QFile::rename(m_folder.filePath("copy"), disc));
+    EXPECT_FALSE(tool->eject('K')) << "an image has no tray";
+    EXPECT_TRUE(m_notes.waitForDiscEvents("K1 K3 "));
+    ASSERT_TRUE(QFile::remove(disc));
+    EXPECT_TRUE(m_notes.waitForDiscEvents("K1 K3 K2 "));
 }
 
 TEST_F(EngineCoreTest, AReleaseStopsABackup)

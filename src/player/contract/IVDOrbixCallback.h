@@ -16,7 +16,8 @@ public:
     // 2. Ignored.
     virtual void reserved2(int first, int second) = 0;
 
-    // 3. A disc came or went.
+    // 3. A disc came or went. The discs that are in when the engine starts raise nothing, nor does what
+    // stands behind a letter when the letter is bound to it.
     virtual void OnDiscEvent(char drive, VD_OPTRA_DISC_NOTIFY_TYPE type) = 0;
 
     // 4. A disc cannot be used.

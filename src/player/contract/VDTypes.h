@@ -30,10 +30,10 @@ enum VD_PlayError : int {
 // What happened in an optical drive. 2 and 4 both mean that the disc is gone.
 enum VD_OPTRA_DISC_NOTIFY_TYPE : int {
     VD_Disc_Unknown = 0,
-    VD_Disc_Arrived = 1,
-    VD_Disc_Removed = 2,
-    VD_Disc_Ready = 3,
-    VD_Disc_Ejected = 4
+    VD_Disc_Arrived = 1, // a disc is in, whatever is on it
+    VD_Disc_Removed = 2, // by hand, or with its drive
+    VD_Disc_Ready = 3,   // follows Arrived once the disc can be read
+    VD_Disc_Ejected = 4  // by operation 103 of IVDPlayTool
 };
 
 // Why a drive or its disc could not be used.

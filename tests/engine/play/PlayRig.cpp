@@ -68,7 +68,7 @@ PlayRig::PlayRig(const std::string &outputs, void *window)
     qputenv("ORBIX_VO", QByteArray::fromStdString(outputs));
     qputenv("ORBIX_AO", QByteArrayLiteral("null"));
     surface.window = window;
-    tool = std::make_unique<PlayTool>(nullptr, &notes, &surface, &output, drives);
+    tool = std::make_unique<PlayTool>(nullptr, &notes, &surface, &output, watch, notifier);
 }
 
 PlayRig::~PlayRig()

@@ -4,6 +4,8 @@
 #include "PlayRecorder.h"
 
 #include "engine/DriveTable.h"
+#include "engine/DriveWatch.h"
+#include "engine/Notifier.h"
 #include "engine/PlayTool.h"
 
 #include <memory>
@@ -126,6 +128,8 @@ public:
     OutputNotes output;
     Surface surface;
     DriveTable drives;
+    Notifier notifier;
+    DriveWatch watch{drives, notifier, &notes};
     std::unique_ptr<PlayTool> tool;
     libvp::IVDPlay *play = nullptr;
     std::unique_ptr<PlayRecorder> recorder; // of the newest play

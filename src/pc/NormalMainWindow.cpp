@@ -335,11 +335,8 @@ void NormalMainWindow::onPlayerMade(QPlayer *player)
     m_session->connectPlayer(player);
     connect(player, &QPlayer::sig_playStatusChanged, this,
             [](QPlayer::QPlayerStatus status) { ScreenSaver::setPlaying(QPlayer::isMoving(status)); });
-    connect(player, &QPlayer::sig_DiscEventOccured, this, [this](char drive, VD_OPTRA_DISC_NOTIFY_TYPE type) {
-        m_discs->refresh();
-        if (DiscEventRule::isGone(int(type)))
-            m_overlays->playlist()->slot_removeDiscList(QString(QLatin1Char(drive)));
-    });
+    connect(player, &QPlayer::sig_DiscEventOccured, this,
+            [this](char drive, VD_OPTRA_DISC_NOTIFY_TYPE type) { onDiscEvent(drive, int(type)); });
     connect(player, &QPlayer::sig_errorOccured, this, [this, player](VD_ErrorCallbackType type) {
         // It would come back with each start.
         if (type == libvp::VD_Error_ShaderInvalid)
@@ -355,6 +352,17 @@ void NormalMainWindow::onEngineReady()
     m_overlays->bar()->volumeControl()->restore();
     const QSize size = m_playView->surface()->deviceSize();
     emit sig_resizeRender(size.width(), size.height());
+}
+
+void NormalMainWindow::onDiscEvent(char drive, int notifyType)
+{
+    const QString letter{QLatin1Char(drive)};
+    m_discs->refresh();
+    if (DiscEventRule::isGone(notifyType))
+        m_overlays->playlist()->slot_removeDiscList(letter);
+    const bool autoPlay = m_settings.valueOr(QLatin1String(SettingsKeys::PC_AutoPlay), true);
+    if (DiscEventRule::opensPlay(notifyType, autoPlay, m_control->hasSource()))
+        slot_playSource(letter);
 }
 
 // ---- playing

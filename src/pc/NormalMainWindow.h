@@ -140,6 +140,7 @@ private:
     void restoreWindow(bool showNow);
     void onPlayerMade(QPlayer *player);
     void onEngineReady();
+    void onDiscEvent(char drive, int notifyType);
     void onSourceOpened(bool isVideo);
     void onCover(const QImage &cover);
     void showPlayView(const QString &title);

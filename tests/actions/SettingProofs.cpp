@@ -44,7 +44,7 @@ std::vector<SettingProof> firstPass(const ActionRig &rig)
         {launchModeVersion6, 2},
         {PC_WindowSize, "Always match to the original video size", windowWidth, "480", When::NextSource},
         {PC_LogPath, rig.path(QStringLiteral("log"))},
-        {PC_AutoPlay, false},
+        {PC_AutoPlay, false}, // seen by a disc that comes in: DiscArrivalTest
         {PC_PausePlay, true},
         {PC_RememberPosition, true},
         {PC_DisableScreenSaver, false},

@@ -38,6 +38,16 @@ TEST(DiscEventRuleTest, LettersAreComparedWithoutCase)
     EXPECT_TRUE(DiscEventRule::stopsPlay('d', 4, "D"));
 }
 
+TEST(DiscEventRuleTest, ADiscThatCanBeReadIsOpenedWhereNothingPlaysAndTheSettingAllowsIt)
+{
+    for (int type = 0; type <= 6; ++type) {
+        EXPECT_EQ(DiscEventRule::opensPlay(type, true, false), type == 3) << type;
+        EXPECT_FALSE(DiscEventRule::opensPlay(type, false, false)) << type;
+        EXPECT_FALSE(DiscEventRule::opensPlay(type, true, true)) << type;
+        EXPECT_FALSE(DiscEventRule::opensPlay(type, false, true)) << type;
+    }
+}
+
 TEST(EndRuleTest, CloseAtEndComesBeforeTheQueueIsConsulted)
 {
     bool isAsked = false;

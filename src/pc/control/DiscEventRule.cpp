@@ -13,4 +13,9 @@ bool stopsPlay(char drive, int notifyType, const QString &playingPath)
            && playingPath.at(0).toLower() == QChar(QLatin1Char(drive)).toLower();
 }
 
+bool opensPlay(int notifyType, bool autoPlay, bool hasSource)
+{
+    return notifyType == Ready && autoPlay && !hasSource;
+}
+
 } // namespace DiscEventRule

@@ -158,13 +158,16 @@ void NormalMainWindow::connectParts()
     connect(m_setUp, &DeferredSetup::ready, this, &NormalMainWindow::onEngineReady);
     connect(m_setUp, &DeferredSetup::failed, this, &NormalMainWindow::slot_showInitFailDialog);
 
-    // Called where they are emitted: the worker keeps the last of those that come while the engine is busy.
+    // Called where they are emitted: the worker keeps their order, and of sizes and of seeks that come while
+    // the engine is busy the last.
     connect(this, &NormalMainWindow::sig_resizeRender, m_worker.get(), &workObject::requestRenderSize,
             Qt::DirectConnection);
     connect(this, &NormalMainWindow::sig_seek, m_worker.get(), &workObject::requestSeek,
             Qt::DirectConnection);
-    connect(this, &NormalMainWindow::sig_setup3D, m_worker.get(), &workObject::slot_setup3D);
-    connect(this, &NormalMainWindow::sig_addSubtitle, m_worker.get(), &workObject::slot_addSubtitle);
+    connect(this, &NormalMainWindow::sig_setup3D, m_worker.get(), &workObject::requestSetup3D,
+            Qt::DirectConnection);
+    connect(this, &NormalMainWindow::sig_addSubtitle, m_worker.get(), &workObject::requestSubtitle,
+            Qt::DirectConnection);
     connect(m_playView->surface(), &VideoSurface::deviceSizeChanged, this, [this](int width, int height) {
         if (m_player != nullptr)
             emit sig_resizeRender(width, height);

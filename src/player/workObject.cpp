@@ -18,26 +18,47 @@ workObject::~workObject()
 
 void workObject::requestRenderSize(int nW, int nH)
 {
-    constexpr int kShift = 32;
-    const qint64 size = (qint64(qMax(0, nW)) << kShift) | quint32(qMax(0, nH));
-    // Who finds something waiting has only replaced it.
-    if (m_waitingSize.exchange(size) != NothingWaits)
-        return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            const qint64 last = m_waitingSize.exchange(NothingWaits);
-            slot_resizeRenderSize(int(last >> kShift), int(quint32(last)));
-        },
-        Qt::QueuedConnection);
+    request(Kind::RenderSize, [this, nW, nH] { slot_resizeRenderSize(qMax(0, nW), qMax(0, nH)); });
 }
 
 void workObject::requestSeek(int nTime)
 {
-    if (m_waitingSeek.exchange(qMax(0, nTime)) != NothingWaits)
-        return;
-    QMetaObject::invokeMethod(
-        this, [this] { slot_seek(int(m_waitingSeek.exchange(NothingWaits))); }, Qt::QueuedConnection);
+    request(Kind::Seek, [this, nTime] { slot_seek(qMax(0, nTime)); });
+}
+
+void workObject::requestSetup3D()
+{
+    request(Kind::Single, [this] { slot_setup3D(); });
+}
+
+void workObject::requestSubtitle(const QString &path)
+{
+    request(Kind::Single, [this, path] { slot_addSubtitle(path); });
+}
+
+// Only the newest entry may be replaced: an older one stands before something else that was asked for later.
+void workObject::request(Kind kind, std::function<void()> run)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (kind != Kind::Single && !m_waiting.empty() && m_waiting.back().kind == kind) {
+            m_waiting.back().run = std::move(run);
+            return;
+        }
+        m_waiting.push_back({kind, std::move(run)});
+    }
+    QMetaObject::invokeMethod(this, &workObject::runNext, Qt::QueuedConnection);
+}
+
+void workObject::runNext()
+{
+    Command next;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        next = std::move(m_waiting.front());
+        m_waiting.pop_front();
+    }
+    next.run();
 }
 
 void workObject::slot_resizeRenderSize(int nW, int nH)

@@ -83,6 +83,33 @@ TEST_F(WorkObject, OfTheSeeksThatComeWhileTheEngineIsBusyOnlyTheLastIsCarriedOut
     EXPECT_THAT(engine.calls(), ElementsAre("IVDPlay::seek(1, 1)", "IVDPlay::seek(50, 1)"));
 }
 
+TEST_F(WorkObject, RequestsOfDifferentKindsKeepTheOrderInWhichTheyWereMade)
+{
+    QTemporaryFile subtitle;
+    ASSERT_TRUE(subtitle.open());
+    start();
+    engine.hold("IVDPlayTool::resizeSurface");
+    work->requestRenderSize(1, 1);
+    ASSERT_TRUE(engine.waitHeld("IVDPlayTool::resizeSurface"));
+    work->requestSeek(9);
+    work->requestSeek(10);
+    work->requestRenderSize(800, 600);
+    work->requestSeek(19);
+    work->requestSeek(20);
+    work->requestSubtitle(subtitle.fileName());
+    work->requestSeek(30);
+    engine.release("IVDPlayTool::resizeSurface");
+    ASSERT_TRUE(engine.waitCall("IVDPlay::seek(30, 1)"));
+    using testing::StartsWith;
+    const std::vector<std::string> calls = engine.calls();
+    ASSERT_GE(calls.size(), 6U);
+    EXPECT_THAT(std::vector<std::string>(calls.begin(), calls.begin() + 5),
+                ElementsAre("IVDPlayTool::resizeSurface(1, 1)", "IVDPlay::seek(10, 1)",
+                            "IVDPlayTool::resizeSurface(800, 600)", "IVDPlay::seek(20, 1)",
+                            StartsWith("IVDPlay::addSubtitle(")));
+    EXPECT_EQ(calls.back(), "IVDPlay::seek(30, 1)");
+}
+
 TEST_F(WorkObject, AddsASubtitleOnItsThread)
 {
     start();

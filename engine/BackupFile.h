@@ -13,7 +13,8 @@ public:
     BackupFile &operator=(const BackupFile &) = delete;
     ~BackupFile() { discard(); }
 
-    // False when the folder cannot be written, and when the target exists and must not be replaced.
+    // False when the folder cannot be written, when the target exists and must not be replaced, and when
+    // another backup, be it of another process, is writing the same one.
     bool open(const std::string &target, bool replace);
     // False when not all bytes could be written, for instance on a full disk.
     bool write(const void *data, std::size_t bytes);
@@ -21,8 +22,9 @@ public:
     bool commit();
     void discard();
 
-    // Name that a file has while it is written.
-    [[nodiscard]] static std::string draftOf(const std::string &target) { return target + ".part"; }
+    // Name that a file has while it is written. Nobody else gives such names, so that what is found under one
+    // was left by a run that was killed; no other file is ever removed.
+    [[nodiscard]] static std::string draftOf(const std::string &target) { return target + ".quorin-draft"; }
 
 private:
     static constexpr std::intptr_t NoHandle = -1;

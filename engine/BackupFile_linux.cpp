@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,6 +21,28 @@ bool moveTo(const std::string &draft, const std::string &target, bool replace)
     if (errno != EINVAL && errno != ENOSYS)
         return false;
     return ::access(target.c_str(), F_OK) != 0 && ::rename(draft.c_str(), target.c_str()) == 0;
+}
+
+// The draft as an open, locked and empty file; below 0 when it cannot be had. The lock tells a draft that is
+// being written from one that was left behind.
+int openDraft(const std::string &draft)
+{
+    const int fd = ::open(draft.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
+                          S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+    if (fd < 0)
+        return -1;
+    // Not every file system can lock.
+    const bool held = ::flock(fd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    // Whoever held it may have given the file its real name meanwhile.
+    struct stat own = {};
+    struct stat named = {};
+    const bool isOwn = !held && ::fstat(fd, &own) == 0 && S_ISREG(own.st_mode) && own.st_nlink == 1
+                       && ::lstat(draft.c_str(), &named) == 0 && own.st_dev == named.st_dev
+                       && own.st_ino == named.st_ino;
+    if (isOwn && ::ftruncate(fd, 0) == 0)
+        return fd;
+    ::close(fd);
+    return -1;
 }
 
 void syncFolder(const std::string &target)
@@ -41,10 +64,7 @@ bool BackupFile::open(const std::string &target, bool replace)
     const bool exists = ::lstat(target.c_str(), &info) == 0;
     if (target.empty() || (exists && (!replace || !S_ISREG(info.st_mode))))
         return false;
-    // Left by a run that was killed.
-    const std::string draft = draftOf(target);
-    ::unlink(draft.c_str());
-    const int fd = ::open(draft.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+    const int fd = openDraft(draftOf(target));
     if (fd < 0)
         return false;
     m_target = target;
@@ -76,20 +96,24 @@ bool BackupFile::commit()
     const bool written = ::fsync(fd) == 0;
     m_handle = NoHandle;
     const std::string draft = draftOf(m_target);
-    // Some file systems tell of a full disk only now.
-    if (::close(fd) != 0 || !written || !moveTo(draft, m_target, m_replace)) {
+    // Keeps the lock until the draft has gone from its name.
+    const int lock = ::fcntl(fd, F_DUPFD_CLOEXEC, 0);
+    // Some file systems tell of a full disk only when a file is closed.
+    const bool whole = ::close(fd) == 0 && written && moveTo(draft, m_target, m_replace);
+    if (whole)
+        syncFolder(m_target);
+    else
         ::unlink(draft.c_str());
-        return false;
-    }
-    syncFolder(m_target);
-    return true;
+    if (lock >= 0)
+        ::close(lock);
+    return whole;
 }
 
 void BackupFile::discard()
 {
     if (m_handle == NoHandle)
         return;
+    ::unlink(draftOf(m_target).c_str());
     ::close(static_cast<int>(m_handle));
     m_handle = NoHandle;
-    ::unlink(draftOf(m_target).c_str());
 }

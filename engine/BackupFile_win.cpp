@@ -27,6 +27,7 @@ bool BackupFile::open(const std::string &target, bool replace)
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (exists && (!replace || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0))
         return false;
+    // Shared with nobody: a draft that another backup is writing cannot be opened or deleted.
     HANDLE handle = CreateFileW(native(draftOf(target)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                 FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)

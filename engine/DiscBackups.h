@@ -3,6 +3,7 @@
 
 #include "DiscBackup.h"
 #include "DriveTable.h"
+#include "LogOnce.h"
 
 #include <memory>
 #include <mutex>
@@ -18,8 +19,9 @@ public:
     DiscBackups(const DiscBackups &) = delete;
     DiscBackups &operator=(const DiscBackups &) = delete;
 
-    // A drive is a letter or a path. False when it holds no disc, when a backup of it runs, and when the
-    // target cannot be written or exists and must not be replaced.
+    // A drive is a letter or a path. False when it holds no disc, when a backup of it or into the same target
+    // runs, and when the target cannot be written or exists and must not be replaced. A folder that holds the
+    // files of a disc is refused, and the log tells so once: it has no sectors to copy.
     bool start(const std::string &drive, const std::string &target, bool replace);
     // Waits until the file of an unfinished backup is gone.
     void stop(const std::string &drive);
@@ -34,11 +36,13 @@ private:
     struct Job {
         std::string drive; // letter, or the path
         std::string path;  // what stood behind it at the start
+        std::string target;
         std::shared_ptr<DiscBackup> backup;
     };
 
     [[nodiscard]] static std::string nameOf(const std::string &drive);
     [[nodiscard]] std::vector<Job>::const_iterator find(const std::string &drive) const;
+    [[nodiscard]] bool isWritten(const std::string &target) const;
     [[nodiscard]] std::shared_ptr<DiscBackup> backupOf(const std::string &drive) const;
 
     const DriveTable &m_drives;
@@ -46,4 +50,5 @@ private:
     std::mutex m_startMutex;
     mutable std::mutex m_mutex;
     std::vector<Job> m_jobs;
+    LogOnce m_log;
 };

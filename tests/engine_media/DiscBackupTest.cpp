@@ -1,4 +1,5 @@
 #include "engine/DiscBackups.h"
+#include "engine/EngineLog.h"
 
 #include "MediaClips.h"
 #include "support/FileSizeLimit_linux.h"
@@ -94,6 +95,10 @@ protected:
     {
         return m_folder.filePath(QString::fromLatin1(name));
     }
+    static QString draft(const char *name = "copy.iso")
+    {
+        return QString::fromStdString(BackupFile::draftOf(name));
+    }
     QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
     std::unique_ptr<DiscBackup> start(const std::shared_ptr<ScriptedDisc::Script> &disc, bool replace = false)
     {
@@ -182,7 +187,7 @@ TEST_F(DiscBackupTest, ProgressGrowsAndTheNameAppearsAtTheEnd)
         EXPECT_DOUBLE_EQ(backup->progress(), 0.5);
         EXPECT_TRUE(backup->isRunning());
         EXPECT_FALSE(backup->isFinished());
-        EXPECT_EQ(files(), QStringList("copy.iso.part"));
+        EXPECT_EQ(files(), QStringList(draft()));
         disc->released = true;
     }
     disc->changed.notify_all();
@@ -200,7 +205,7 @@ TEST_F(DiscBackupTest, StoppingLeavesNothing)
     {
         std::unique_lock<std::mutex> lock(disc->mutex);
         disc->changed.wait(lock, [&] { return disc->waiting; });
-        EXPECT_EQ(files(), QStringList("copy.iso.part"));
+        EXPECT_EQ(files(), QStringList(draft()));
     }
     std::thread stopper([&] { backup.reset(); });
     {
@@ -210,7 +215,7 @@ TEST_F(DiscBackupTest, StoppingLeavesNothing)
     disc->changed.notify_all();
     stopper.join();
     // The stop may have come just behind the last sector.
-    EXPECT_FALSE(QFile::exists(target("copy.iso.part")));
+    EXPECT_FALSE(QFile::exists(target(qPrintable(draft()))));
     EXPECT_TRUE(files().isEmpty() || MediaClips::contentsOf(target()) == disc->bytes);
 }
 
@@ -258,12 +263,92 @@ TEST_F(DiscBackupTest, AnImageWhoseSizeIsNoWholeSectorIsCopiedWhole)
 
 TEST_F(DiscBackupTest, WhatAKilledRunLeftIsReplaced)
 {
-    ASSERT_TRUE(MediaClips::writeFile(target("copy.iso.part"), "old"));
+    ASSERT_TRUE(MediaClips::writeFile(target(qPrintable(draft())), "old"));
     const auto disc = script(3);
     const auto backup = start(disc);
     ASSERT_TRUE(backup);
     ASSERT_TRUE(waitUntil([&] { return backup->isFinished(); }));
     EXPECT_EQ(files(), QStringList("copy.iso"));
+}
+
+TEST_F(DiscBackupTest, AFileOfTheUsersThatLooksLikeADraftIsLeftAlone)
+{
+    const QStringList names{"copy.iso.part", "copy.iso.tmp", "copy.iso~"};
+    for (const QString &name : names)
+        ASSERT_TRUE(MediaClips::writeFile(target(qPrintable(name)), "precious"));
+    const auto backup = start(script(3));
+    ASSERT_TRUE(backup);
+    ASSERT_TRUE(waitUntil([&] { return backup->isFinished(); }));
+    for (const QString &name : names)
+        EXPECT_EQ(MediaClips::contentsOf(target(qPrintable(name))), "precious") << qPrintable(name);
+}
+
+TEST_F(DiscBackupTest, WhatIsNoFileUnderADraftsNameIsNoDraft)
+{
+    const QString folder = target(qPrintable(draft()));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    EXPECT_FALSE(start(script(3)));
+    EXPECT_TRUE(QDir(folder).exists());
+    ASSERT_TRUE(QDir().rmdir(folder));
+    ASSERT_TRUE(MediaClips::writeFile(target("precious"), "precious"));
+    ASSERT_TRUE(QFile::link(target("precious"), folder));
+    EXPECT_FALSE(start(script(3)));
+    EXPECT_EQ(MediaClips::contentsOf(target("precious")), "precious");
+}
+
+TEST_F(DiscBackupTest, ASecondBackupIntoTheSameTargetIsRefusedAndTheFirstIsWhole)
+{
+    const auto disc = script(256);
+    disc->waitAtSector = 128;
+    const auto backup = start(disc, true);
+    ASSERT_TRUE(backup);
+    {
+        std::unique_lock<std::mutex> lock(disc->mutex);
+        disc->changed.wait(lock, [&] { return disc->waiting; });
+        EXPECT_FALSE(start(script(3), true));
+        EXPECT_EQ(files(), QStringList(draft()));
+        disc->released = true;
+    }
+    disc->changed.notify_all();
+    ASSERT_TRUE(waitUntil([&] { return backup->isFinished(); }));
+    EXPECT_EQ(MediaClips::contentsOf(target()), disc->bytes);
+    const auto next = start(script(3), true);
+    ASSERT_TRUE(next) << "the target is free again";
+}
+
+TEST_F(DiscBackupTest, TwoDrivesDoNotShareATargetUnderAnyOfItsNames)
+{
+    const QString disc = target("large.iso");
+    ASSERT_TRUE(QFile::copy(TestDiscs::dvdImage(), disc));
+    QFile file(disc);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(4LL << 30));
+    const QString link = m_folder.path() + "-link";
+    ASSERT_TRUE(QFile::link(m_folder.path(), link));
+    m_drives.bind('V', disc.toStdString());
+    m_drives.bind('W', TestDiscs::dvdImage().toStdString());
+    DiscBackups backups(m_drives);
+    ASSERT_TRUE(backups.start("V", target().toStdString(), true));
+    for (const QString &name : {target(), m_folder.path() + "/./copy.iso", QString(link + "/copy.iso")})
+        EXPECT_FALSE(backups.start("W", name.toStdString(), true)) << qPrintable(name);
+    EXPECT_EQ(backups.progress("W"), -1.0);
+    EXPECT_TRUE(QFile::exists(target(qPrintable(draft()))));
+    backups.stop("V");
+    EXPECT_TRUE(backups.start("W", target().toStdString(), true));
+    EXPECT_TRUE(QFile::remove(link));
+}
+
+TEST_F(DiscBackupTest, ADiscFolderIsRefusedAndTheLogTellsSoOnce)
+{
+    const QTemporaryDir logs;
+    ASSERT_TRUE(EngineLog::instance().open(logs.path().toStdString()));
+    m_drives.bind('V', TestDiscs::dvdFolder().toStdString());
+    DiscBackups backups(m_drives);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_FALSE(backups.start("V", target().toStdString(), false));
+    EngineLog::instance().close();
+    const QByteArray log = MediaClips::contentsOf(logs.filePath(EngineLog::FileName));
+    EXPECT_EQ(log.count("a backup of a disc folder cannot be made"), 1) << log.constData();
 }
 
 TEST_F(DiscBackupTest, ADriveTakesOneBackupAtATimeUnderAnyOfItsNames)
@@ -279,7 +364,7 @@ TEST_F(DiscBackupTest, ADriveTakesOneBackupAtATimeUnderAnyOfItsNames)
     ASSERT_TRUE(backups.start("V", target("a.iso").toStdString(), false));
     EXPECT_FALSE(backups.start("V:", target("b.iso").toStdString(), false));
     EXPECT_FALSE(backups.start(disc.toStdString(), target("b.iso").toStdString(), false));
-    EXPECT_FALSE(QFile::exists(target("b.iso.part")));
+    EXPECT_FALSE(QFile::exists(target(qPrintable(draft("b.iso")))));
     EXPECT_GE(backups.progress("v"), 0.0);
     backups.stop(disc.toStdString());
     EXPECT_EQ(backups.progress("V"), -1.0);

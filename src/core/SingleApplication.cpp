@@ -1,15 +1,17 @@
 #include "SingleApplication.h"
 
+#include "HandedOverPaths.h"
 #include "InstanceLock.h"
 #include "InstanceMessage.h"
 #include "LocalPeer.h"
 #include "ServerNameProbe.h"
-#include "ThreadWorker.h"
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QMetaMethod>
+
+#include <utility>
 
 namespace {
 
@@ -23,19 +25,22 @@ SingleApplication::SingleApplication(int &argc, char **argv)
     : QApplication(argc, argv)
     , server(new QLocalServer(this))
     , serverName(QString::fromLatin1(InstanceMessage::ServerName))
+    , m_paths(new HandedOverPaths(this))
 {
     connect(server, &QLocalServer::newConnection, this, &SingleApplication::slot_newLocalConnection);
     CommunicationManager *hub = CommunicationManager::instance();
     connect(hub, &CommunicationManager::SIG_sendMsgToUpdate, this, &SingleApplication::SLOT_sendMsgToUpdate);
     connect(hub, &CommunicationManager::SIG_sendChangeBkImg, this, &SingleApplication::SLOT_sendBkImgChanged);
     m_retry.setInterval(kRetryMs);
-    connect(&m_retry, &QTimer::timeout, this, &SingleApplication::claimServer);
-    listen();
+    connect(&m_retry, &QTimer::timeout, this, &SingleApplication::tryAgain);
+    connect(m_paths, &HandedOverPaths::fileFound, this, &SingleApplication::playFile);
+    listen(m_startWaits);
 }
 
 SingleApplication::~SingleApplication()
 {
     m_retry.stop();
+    delete m_paths;
     // Peers are children too, and must not report to a half-destroyed object.
     qDeleteAll(findChildren<LocalPeer *>(QString(), Qt::FindDirectChildrenOnly));
     if (server->isListening())
@@ -50,10 +55,11 @@ bool SingleApplication::isListening() const
 
 // The name of a live copy is never taken away: a socket file is removed only when nobody answers behind it,
 // and two copies that start at once do this one after the other.
-void SingleApplication::listen()
+void SingleApplication::listen(WaitBudget &budget)
 {
-    const InstanceLock lock;
-    isRunning = probeServerName(serverName, timeoutMs) == ServerState::Alive;
+    const InstanceLock lock(budget);
+    const int probeMs = qMin(timeoutMs, budget.beforeLastMs());
+    isRunning = budget.spend([&] { return probeServerName(serverName, probeMs); }) == ServerState::Alive;
     if (isRunning)
         return;
     if (!server->listen(serverName) && server->serverError() == QAbstractSocket::AddressInUseError) {
@@ -67,11 +73,17 @@ void SingleApplication::listen()
 void SingleApplication::claimServer()
 {
     if (!server->isListening())
-        listen();
+        listen(m_startWaits);
     if (server->isListening())
         m_retry.stop();
     else
         m_retry.start();
+}
+
+void SingleApplication::tryAgain()
+{
+    m_startWaits = WaitBudget(timeoutMs);
+    claimServer();
 }
 
 void SingleApplication::releaseServer()
@@ -118,27 +130,37 @@ void SingleApplication::slot_socketReadyRead()
         emit signal_otherWantRunning();
         break;
     case InstanceMessage::Kind::Text:
-        playIfFile(message.payload);
+        m_paths->add(message.payload);
         break;
     }
     peer->answerAndClose(InstanceMessage::Greeting);
 }
 
-// The test of the path may wait for a drive to spin up or for a network that is gone.
-void SingleApplication::playIfFile(const QString &path)
+void SingleApplication::playFile(const QString &path)
 {
-    if (!m_fileTest)
-        m_fileTest = new ThreadWorker(1, this);
-    const auto isFile = std::make_shared<bool>(false);
-    m_fileTest->addTask([isFile, path] { *isFile = QFileInfo(path).isFile(); },
-                        [this, isFile, path] {
-                            if (!*isFile)
-                                return;
-                            if (m_outsideSource)
-                                m_outsideSource();
-                            emit signal_playOutFile(path);
-                            emit signal_otherWantRunning();
-                        });
+    if (!isSignalConnected(QMetaMethod::fromSignal(&SingleApplication::signal_playOutFile))) {
+        // The program still asks for its mode or tells of a file that it lacks.
+        m_keptFile = path;
+        return;
+    }
+    if (m_outsideSource)
+        m_outsideSource();
+    emit signal_playOutFile(path);
+    emit signal_otherWantRunning();
+}
+
+void SingleApplication::connectNotify(const QMetaMethod &signal)
+{
+    // Queued: who connects is at its start.
+    if (signal == QMetaMethod::fromSignal(&SingleApplication::signal_playOutFile))
+        QMetaObject::invokeMethod(this, &SingleApplication::playKeptFile, Qt::QueuedConnection);
+}
+
+void SingleApplication::playKeptFile()
+{
+    const QString path = std::exchange(m_keptFile, {});
+    if (!path.isEmpty())
+        playFile(path);
 }
 
 void SingleApplication::passOn(int type)

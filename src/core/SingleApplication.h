@@ -1,10 +1,11 @@
 // The application object. Keeps a local server on which later copies of the program hand over their command
 // line and on which the updater talks to the player; tells the updater what the player has to say. Owns the
-// server. Nothing here waits: neither for a peer nor for the disc that a handed-over path lies on. GUI
-// thread.
+// server. Nothing here waits: neither for a peer nor for the disc that a handed-over path lies on; only the
+// start does, for another copy, within a budget. GUI thread.
 #pragma once
 
 #include "CommunicationManager.h"
+#include "WaitBudget.h"
 
 #include <QApplication>
 #include <QString>
@@ -12,13 +13,18 @@
 
 #include <functional>
 
+class HandedOverPaths;
 class QLocalServer;
-class ThreadWorker;
 
 class SingleApplication final : public QApplication {
     Q_OBJECT
 
 public:
+    // What a copy that finds another one waits for it, all waits together, and what of it is kept for the
+    // hand-over itself.
+    static constexpr int StartWaitMs = 500;
+    static constexpr int HandOverShareMs = 100;
+
     // Argument vector as the entry point got it; both must live as long as the object.
     SingleApplication(int &argc, char **argv);
     ~SingleApplication() override;
@@ -27,6 +33,8 @@ public:
     [[nodiscard]] bool otherCopyServes() const { return isRunning; }
     [[nodiscard]] bool isListening() const;
     [[nodiscard]] QString name() const { return serverName; }
+
+    [[nodiscard]] WaitBudget &startWaits() { return m_startWaits; }
 
     // For the copy that has been found to be the first: serves the name now, or as soon as whoever still
     // holds it lets go.
@@ -38,6 +46,7 @@ public:
     void setOutsideSourceSink(std::function<void()> sink);
 
 signals:
+    // The last file that comes while nobody is connected is kept and given on to who connects then.
     void signal_playOutFile(QString path);
     void signal_otherWantRunning();
 
@@ -47,9 +56,14 @@ public slots:
     void SLOT_sendMsgToUpdate(SendMsgType type);
     void SLOT_sendBkImgChanged(QString imgPath);
 
+protected:
+    void connectNotify(const QMetaMethod &signal) override;
+
 private:
-    void listen();
-    void playIfFile(const QString &path);
+    void listen(WaitBudget &budget);
+    void tryAgain();
+    void playFile(const QString &path);
+    void playKeptFile();
     void passOn(int type);
     void sendToUpdater(const QString &text);
 
@@ -57,7 +71,9 @@ private:
     QLocalServer *server{nullptr};
     QString serverName;
     int timeoutMs{300};
+    WaitBudget m_startWaits{StartWaitMs, HandOverShareMs};
     QTimer m_retry;
-    ThreadWorker *m_fileTest{nullptr};
+    HandedOverPaths *m_paths;
+    QString m_keptFile;
     std::function<void()> m_outsideSource;
 };

@@ -28,10 +28,10 @@ SingleInstance::~SingleInstance()
     release();
 }
 
-bool SingleInstance::acquire()
+bool SingleInstance::acquire(WaitBudget &budget)
 {
     // Two copies that look after a left-behind segment at once would each take the other for its owner.
-    const InstanceLock lock;
+    const InstanceLock lock(budget);
     // Where segments outlive their processes the last one to detach removes it, and a live owner keeps it
     // from going. The key follows the file that names it, and a new file may meet the segment of yet another
     // copy that crashed.
@@ -63,13 +63,14 @@ void SingleInstance::release()
 
 SingleInstance::Outcome SingleInstance::start(SingleApplication &application, const QStringList &arguments)
 {
-    if (acquire()) {
+    if (acquire(application.startWaits())) {
         application.claimServer();
         return Outcome::First;
     }
     application.releaseServer();
-    return handOver(application.name(), handOverText(arguments), ConnectTimeoutMs) ? Outcome::HandedOver
-                                                                                   : Outcome::OtherCopySilent;
+    const bool isTold =
+        handOver(application.name(), handOverText(arguments), application.startWaits().leftMs());
+    return isTold ? Outcome::HandedOver : Outcome::OtherCopySilent;
 }
 
 QString SingleInstance::handOverText(const QStringList &arguments)

@@ -8,12 +8,11 @@
 #include <QStringList>
 
 class SingleApplication;
+class WaitBudget;
 
 class SingleInstance final {
 public:
     static constexpr char SegmentKey[] = "Quorin Player 5";
-    static constexpr int ConnectTimeoutMs = 500;
-
     enum class Outcome {
         // This process is the first copy and goes on.
         First,
@@ -29,11 +28,11 @@ public:
     SingleInstance &operator=(const SingleInstance &) = delete;
 
     // The whole decision, with the argument list as it is after the maintenance arguments. The first copy
-    // serves the application's name from then on.
+    // serves the application's name from then on; another one waits within the application's budget.
     [[nodiscard]] Outcome start(SingleApplication &application, const QStringList &arguments);
 
     // Whether this process holds the segment now, after trying to.
-    [[nodiscard]] bool acquire();
+    [[nodiscard]] bool acquire(WaitBudget &budget);
     void release();
 
     // The text that a copy with these arguments hands over.

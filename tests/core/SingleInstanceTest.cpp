@@ -1,4 +1,5 @@
 #include "core/SingleInstance.h"
+#include "core/WaitBudget.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@ protected:
     SingleInstanceTest() { qputenv("TMPDIR", m_folder.path().toLocal8Bit()); }
     ~SingleInstanceTest() override { qputenv("TMPDIR", m_before); }
 
+    WaitBudget m_waits{500};
     QTemporaryDir m_folder;
     QByteArray m_before{qgetenv("TMPDIR")};
 };
@@ -22,11 +24,11 @@ TEST_F(SingleInstanceTest, OnlyTheFirstHoldsTheSegmentUntilItLetsGo)
 {
     SingleInstance first;
     SingleInstance second;
-    EXPECT_TRUE(first.acquire());
-    EXPECT_FALSE(second.acquire());
-    EXPECT_FALSE(second.acquire());
+    EXPECT_TRUE(first.acquire(m_waits));
+    EXPECT_FALSE(second.acquire(m_waits));
+    EXPECT_FALSE(second.acquire(m_waits));
     first.release();
-    EXPECT_TRUE(second.acquire());
+    EXPECT_TRUE(second.acquire(m_waits));
 }
 
 TEST_F(SingleInstanceTest, ExactlyOneFileIsHandedOverAndEverythingElseIsAStart)
@@ -53,7 +55,7 @@ TEST_F(SingleInstanceTest, ANameThatNobodyServesIsGivenUpAtOnce)
 {
     QElapsedTimer clock;
     clock.start();
-    EXPECT_FALSE(SingleInstance::handOver("nobody", "StartPlayer", SingleInstance::ConnectTimeoutMs));
+    EXPECT_FALSE(SingleInstance::handOver("nobody", "StartPlayer", 500));
     EXPECT_LT(clock.elapsed(), 2000);
 }
 

@@ -2,6 +2,7 @@
 // standard output what happens to it, and does what standard input tells it.
 //
 //   core_child start [ARGUMENTS...]    a copy started with these arguments
+//   core_child busy [ARGUMENTS...]     the same, with nobody there for files until it is told "connect"
 //   core_child segment KEY             holds nothing; clears what killed copies left behind
 //   core_child paths                   the data folder before and after the application object exists
 //   core_child readonly FILE           writes into a settings file as a user who may not
@@ -11,6 +12,7 @@
 #include "core/SettingsManager.h"
 #include "core/SingleApplication.h"
 #include "core/SingleInstance.h"
+#include "core/WaitBudget.h"
 
 #include <QSocketNotifier>
 
@@ -30,20 +32,29 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-void obey(const QString &command)
+void connectFiles(SingleApplication &app)
+{
+    QObject::connect(&app, &SingleApplication::signal_playOutFile, &app,
+                     [](const QString &path) { say("play " + path); });
+    QObject::connect(&app, &SingleApplication::signal_otherWantRunning, &app, [] { say("activate"); });
+}
+
+void obey(SingleApplication &app, const QString &command)
 {
     CommunicationManager *hub = CommunicationManager::instance();
     if (command == "quit")
         QCoreApplication::quit();
     else if (command == "hang")
         pause();
+    else if (command == "connect")
+        connectFiles(app);
     else if (command.startsWith("message "))
         emit hub->SIG_sendMsgToUpdate(static_cast<SendMsgType>(command.mid(8).toInt()));
     else if (command.startsWith("picture "))
         emit hub->SIG_sendChangeBkImg(command.mid(8));
 }
 
-int startCopy(int argc, char **argv)
+int startCopy(int argc, char **argv, bool isBusy)
 {
     SingleApplication app(argc, argv);
     // Program and the arguments behind "start".
@@ -63,20 +74,19 @@ int startCopy(int argc, char **argv)
     }
 
     app.setOutsideSourceSink([] { say("outside"); });
-    QObject::connect(&app, &SingleApplication::signal_playOutFile, &app,
-                     [](const QString &path) { say("play " + path); });
-    QObject::connect(&app, &SingleApplication::signal_otherWantRunning, &app, [] { say("activate"); });
+    if (!isBusy)
+        connectFiles(app);
     QObject::connect(CommunicationManager::instance(), &CommunicationManager::SIG_updateStatusIsChanged, &app,
                      [](UpdateStatus status) { say(QString("status %1").arg(static_cast<int>(status))); });
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
-    QObject::connect(&input, &QSocketNotifier::activated, &app, [&input] {
+    QObject::connect(&input, &QSocketNotifier::activated, &app, [&app, &input] {
         std::string line;
         if (!std::getline(std::cin, line)) {
             input.setEnabled(false);
             QCoreApplication::quit();
             return;
         }
-        obey(QString::fromStdString(line));
+        obey(app, QString::fromStdString(line));
     });
     say(app.isListening() ? "first" : "first without server");
     return app.exec();
@@ -112,10 +122,13 @@ int main(int argc, char **argv)
 {
     const char *what = argc > 1 ? argv[1] : "";
     if (!std::strcmp(what, "start"))
-        return startCopy(argc, argv);
+        return startCopy(argc, argv, false);
+    if (!std::strcmp(what, "busy"))
+        return startCopy(argc, argv, true);
     if (!std::strcmp(what, "segment")) {
         SingleInstance instance;
-        return instance.acquire() ? 0 : 1;
+        WaitBudget budget(SingleApplication::StartWaitMs);
+        return instance.acquire(budget) ? 0 : 1;
     }
     if (!std::strcmp(what, "paths"))
         return showPaths(argc, argv);

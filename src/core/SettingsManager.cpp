@@ -93,8 +93,17 @@ void SettingsManager::sync()
     write();
 }
 
+void SettingsManager::abandon()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_isAbandoned = true;
+    m_settings.findChild<WholeSettingsFile *>()->abandon();
+}
+
 void SettingsManager::write()
 {
+    if (m_isAbandoned)
+        return;
     if (m_settings.findChild<WholeSettingsFile *>()->sync() || std::exchange(m_hasToldFailure, true))
         return;
     qInfo().noquote() << "[Settings] the file cannot be written:" << m_settings.fileName();
@@ -221,7 +230,7 @@ void SettingsManager::setCurrentScreenRect(const QRect &rect)
 
 bool SettingsManager::proxyEnable() const
 {
-    return value(SettingsKeys::PC_ProxyEnable).toBool();
+    return valueOr(SettingsKeys::PC_ProxyEnable, false);
 }
 
 void SettingsManager::setProxyEnable(bool enable)
@@ -286,7 +295,7 @@ void SettingsManager::setProxyPasswd(const QString &password)
 
 bool SettingsManager::mediaServerSortOrder() const
 {
-    return value(SettingsKeys::PC_MediaServerSortOrder).toBool();
+    return valueOr(SettingsKeys::PC_MediaServerSortOrder, false);
 }
 
 void SettingsManager::setMediaServerSortOrder(bool order)
@@ -316,7 +325,7 @@ void SettingsManager::setFirstPlay(bool first)
 
 bool SettingsManager::addPlan() const
 {
-    return contains(SettingsKeys::PC_ADDPLAN) && value(SettingsKeys::PC_AddPlan).toBool();
+    return contains(SettingsKeys::PC_ADDPLAN) && valueOr(SettingsKeys::PC_AddPlan, false);
 }
 
 void SettingsManager::setAddPlan(bool join)
@@ -382,7 +391,7 @@ void SettingsManager::setPlayHistory(const QList<PlayHistoryEntry> &history)
 
 bool SettingsManager::enableFileAssociation() const
 {
-    return value(SettingsKeys::EnableFileAssociation).toBool();
+    return valueOr(SettingsKeys::EnableFileAssociation, false);
 }
 
 void SettingsManager::setEnableFileAssociation(bool enable)

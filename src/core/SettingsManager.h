@@ -4,6 +4,7 @@
 // disk is written when the process ends.
 #pragma once
 
+#include "StoredValue.h"
 #include "SystemLanguageId.h"
 
 #include <QByteArray>
@@ -17,6 +18,7 @@
 
 #include <functional>
 #include <mutex>
+#include <type_traits>
 
 struct PlayHistoryEntry {
     QString displayText;
@@ -45,6 +47,9 @@ public:
     [[nodiscard]] bool contains(const QString &key) const;
     void remove(const QString &key);
     void sync();
+    // Writes nothing any more, for a process that takes the file away: neither what is pending nor what is
+    // set from now on.
+    void abandon();
     [[nodiscard]] QString fileName() const;
 
     // The stored value, or the fallback when the key is absent or holds something else than a T.
@@ -52,7 +57,11 @@ public:
     [[nodiscard]] T valueOr(const QString &key, const T &fallback) const
     {
         const QVariant stored = value(key);
-        return converted(stored, qMetaTypeId<T>()) ? stored.value<T>() : fallback;
+        // Qt takes any text for a true flag.
+        if constexpr (std::is_same_v<T, bool>)
+            return StoredValue::flag(stored).value_or(fallback);
+        else
+            return converted(stored, qMetaTypeId<T>()) ? stored.value<T>() : fallback;
     }
 
     // Array-valued settings in general: one map from entry key to value for each entry. Writing syncs.
@@ -135,4 +144,5 @@ private:
     mutable QSettings m_settings;
     SystemLanguageReader m_systemLanguage;
     bool m_hasToldFailure{false};
+    bool m_isAbandoned{false};
 };

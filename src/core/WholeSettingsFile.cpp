@@ -125,6 +125,8 @@ bool WholeSettingsFile::eventFilter(QObject *watched, QEvent *event)
 void WholeSettingsFile::writeByItself()
 {
     const std::lock_guard lock(m_mutex);
+    if (m_isAbandoned)
+        return;
     (void)write([this] {
         QEvent update(QEvent::UpdateRequest);
         static_cast<QObject &>(m_settings).event(&update);

@@ -28,6 +28,9 @@ public:
     // be written: it is as before, and the next call tries again.
     bool sync();
 
+    // QSettings writes nothing by itself any more, its destruction apart. The mutex is held by the caller.
+    void abandon() { m_isAbandoned = true; }
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -40,4 +43,5 @@ private:
     std::mutex &m_mutex;
     QTimer m_retry;
     bool m_hasFailed{false};
+    bool m_isAbandoned{false};
 };

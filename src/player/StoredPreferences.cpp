@@ -1,6 +1,7 @@
 #include "StoredPreferences.h"
 
 #include "core/SettingsManager.h"
+#include "core/StoredValue.h"
 
 #include <QDebug>
 #include <QRegularExpression>
@@ -8,21 +9,6 @@
 #include <optional>
 
 namespace {
-
-// The file holds texts; a flag is told as "true" and "false" and was a number once.
-std::optional<int> readNumber(const QVariant &value)
-{
-    if (value.userType() == QMetaType::Bool)
-        return value.toBool() ? 1 : 0;
-    const QString text = value.toString().trimmed();
-    if (text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
-        return 1;
-    if (text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
-        return 0;
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? std::make_optional(number) : std::nullopt;
-}
 
 void tellUnusable(const char *key, const QVariant &value, const QVariant &taken)
 {
@@ -49,8 +35,8 @@ bool StoredPreferences::flag(const FlagRow &row)
     const QVariant value = stored(row.key, row.fallback);
     if (!value.isValid())
         return row.fallback;
-    if (const std::optional<int> number = readNumber(value))
-        return *number != 0;
+    if (const std::optional<bool> flag = StoredValue::flag(value))
+        return *flag;
     tellUnusable(row.key, value, row.fallback);
     return row.fallback;
 }
@@ -60,7 +46,7 @@ int StoredPreferences::number(const NumberRow &row)
     const QVariant value = stored(row.key, row.fallback);
     if (!value.isValid())
         return row.fallback;
-    const std::optional<int> number = readNumber(value);
+    const std::optional<int> number = StoredValue::number(value);
     const int taken = number ? qBound(row.least, *number, row.most) : row.fallback;
     if (number != taken)
         tellUnusable(row.key, value, taken);

@@ -102,6 +102,44 @@ TEST_F(SettingsManagerTest, EveryAccessorHasItsDefaultAndKeepsItsValue)
     EXPECT_TRUE(again.enableFileAssociation());
 }
 
+TEST_F(SettingsManagerTest, ATextThatIsNoFlagGivesTheDefault)
+{
+    putFile(
+        "[General]\nPC_ProxyEnable=banana\nPC_MediaServerSortOrder=banana\nPC_ADDPLAN=1\nPC_AddPlan=banana\n"
+        "EnableFileAssociation=banana\nPC_FirstPlay=banana\n");
+    SettingsManager store(m_file);
+    EXPECT_FALSE(store.proxyEnable());
+    EXPECT_FALSE(store.mediaServerSortOrder());
+    EXPECT_FALSE(store.addPlan());
+    EXPECT_FALSE(store.enableFileAssociation());
+    EXPECT_TRUE(store.firstPlay());
+    EXPECT_TRUE(store.valueOr("PC_ProxyEnable", true));
+    EXPECT_FALSE(store.valueOr("PC_ProxyEnable", false));
+}
+
+TEST_F(SettingsManagerTest, AFlagIsAWordOrANumber)
+{
+    const struct {
+        const char *text;
+        bool fallback;
+        bool expected;
+    } rows[] = {{"true", false, true}, {"TRUE", false, true}, {"false", true, false},
+                {"1", false, true},    {"0", true, false},    {"2", false, true},
+                {"", true, true},      {"", false, false},    {"yes", true, true},
+                {"yes", false, false}, {"1.5", false, false}, {"@Invalid()", true, true}};
+    QByteArray text = "[General]\n";
+    int number = 0;
+    for (const auto &row : rows)
+        text += "flag" + QByteArray::number(number++) + "=" + row.text + "\n";
+    putFile(text);
+    SettingsManager store(m_file);
+    number = 0;
+    for (const auto &row : rows)
+        EXPECT_EQ(store.valueOr("flag" + QString::number(number++), row.fallback), row.expected) << row.text;
+    store.setValue("flag", true);
+    EXPECT_TRUE(store.valueOr("flag", false));
+}
+
 TEST_F(SettingsManagerTest, ValuesThatAreNoIntegersGiveTheDefault)
 {
     putFile("[General]\nlaunchModeVersion6=television\nAudioSpeaker=\nAudioPassthrough=2.x\n");

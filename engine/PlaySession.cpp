@@ -4,6 +4,8 @@
 #include "PcmTap.h"
 #include "ResumeMemory.h"
 
+#include <algorithm>
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -12,7 +14,10 @@ using namespace libvp;
 constexpr std::uint64_t firstReply = 1000; // rows of the property table use the numbers below
 constexpr auto discOpenLimit = 20000ms;    // a drive has to spin up first
 constexpr auto frameLimit = 600ms;
-constexpr auto terminateLimit = 3500ms;
+// From the wish to close to the end of the thread: a source that hangs in the system must not hold up who
+// closes. What the last frame has left of it is for the end of libmpv.
+constexpr auto closeLimit = 1200ms;
+constexpr auto leastTerminateLimit = 200ms;
 constexpr double idleWait = 30; // seconds
 
 } // namespace
@@ -41,7 +46,10 @@ void PlaySession::end()
     if (m_ended)
         return;
     m_ended = true;
-    post([this] { close(); });
+    post([this, asked = EngineThread::Clock::now()] {
+        m_closeAsked = asked;
+        close();
+    });
     m_worker.join();
     m_context.notifier->flush(m_line);
     m_context.notifier->close(m_line);
@@ -132,10 +140,20 @@ void PlaySession::run()
     }
     m_context.settings->unfollow(this);
     m_thread.close();
+    // Who waits for one of these waits no longer.
+    m_replies.clear();
     m_tap.reset();
     if (m_mpv)
-        m_mpv->terminate(terminateLimit);
+        m_mpv->terminate(timeToTerminate());
     m_mpv.reset();
+}
+
+std::chrono::milliseconds PlaySession::timeToTerminate() const
+{
+    const auto used = EngineThread::Clock::now() - m_closeAsked;
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(closeLimit - used);
+    return std::clamp(left, std::chrono::milliseconds(leastTerminateLimit),
+                      std::chrono::milliseconds(closeLimit));
 }
 
 void PlaySession::handle(const MpvEvent &event)
@@ -292,6 +310,7 @@ void PlaySession::storeResumeChoice()
 void PlaySession::close()
 {
     m_closeWanted = true;
+    m_waiting = {};
     if (m_state == State::Opening) {
         notify([](IVDPlayCallback &callback) { callback.OnPlayBackStopped(); });
         m_state = State::Over;

@@ -28,6 +28,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <thread>
 
 class PcmTap;
@@ -55,16 +56,19 @@ public:
     PlaySession &operator=(const PlaySession &) = delete;
 
     void start();
-    // Ends the play and its thread, a few seconds at most. Nothing is notified afterwards.
+    // Ends the play and its thread, in 1.2 seconds even when the source hangs in the system. Nothing is
+    // notified afterwards; who waits for an answer of this play gets none and goes on.
     void end();
 
     [[nodiscard]] PlayFacts facts() const;
     // Position now, seconds.
     [[nodiscard]] double position() const;
 
+    // While the source is being opened these two are remembered and carried out at the start: whether the
+    // pause was toggled, and the last seek.
     void togglePause();
-    void setSpeedIndex(int index);
     void seek(double seconds, bool exact);
+    void setSpeedIndex(int index);
     void step(int frames); // 1 or -1
     void setAudioTrack(int index);
     void setSubtitleTrack(int index);
@@ -94,6 +98,7 @@ private:
 
     // The thread and what it waits for (PlaySession.cpp).
     void run();
+    [[nodiscard]] std::chrono::milliseconds timeToTerminate() const;
     void post(EngineThread::Task task);
     void handle(const MpvEvent &event);
     void handleReply(const MpvEvent &event);
@@ -170,6 +175,8 @@ private:
     void afterApplied(std::function<void()> task);
     void loadSubtitle(const std::string &address, const std::function<void(int)> &answer);
     void doStep(int frames);
+    void doSeek(double seconds, bool exact);
+    void carryOutWaiting();
 
     // EngineSettings::Follower
     void optionChanged(const std::string &name, const MpvValue &value) override;
@@ -211,6 +218,7 @@ private:
     int m_startReplies{0};
     bool m_endReached{false};
     EngineThread::Clock::time_point m_asked;
+    EngineThread::Clock::time_point m_closeAsked;
     EngineThread::TimerId m_openTimer{0};
     EngineThread::TimerId m_pollTimer{0};
     EngineThread::TimerId m_seekTimer{0};
@@ -228,6 +236,16 @@ private:
     std::string m_appliedShader;
     std::string m_videoOutput;
     ShaderWatch m_shaderWatch;
+    // Asked for while the source was being opened.
+    struct Waiting {
+        struct Seek {
+            double seconds;
+            bool exact;
+        };
+        bool pauseToggled{false};
+        std::optional<Seek> seek;
+    };
+    Waiting m_waiting;
     SeekQueue m_seeks;
     bool m_seekAccepted{false};
     int m_seekCount{0};

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstdio>
 #include <future>
+#include <utility>
 
 namespace {
 
@@ -38,6 +39,8 @@ void PlaySession::togglePause()
     post([this] {
         if (m_state == State::Playing)
             m_speed.togglePause();
+        else if (m_state == State::Opening)
+            m_waiting.pauseToggled = !m_waiting.pauseToggled;
     });
 }
 
@@ -54,16 +57,31 @@ void PlaySession::seek(double seconds, bool exact)
     if (!std::isfinite(seconds))
         return;
     post([this, seconds, exact] {
-        if (m_state != State::Playing)
-            return;
-        const double total = sourceLength();
-        SeekQueue::Seek wanted;
-        wanted.target = total > 0 ? std::clamp(seconds, 0.0, total) : std::max(seconds, 0.0);
-        wanted.exact = exact;
-        if (m_speed.isStepping())
-            m_speed.reposition(wanted.target, EngineThread::Clock::now());
-        m_seeks.request(std::move(wanted));
+        if (m_state == State::Playing)
+            doSeek(seconds, exact);
+        else if (m_state == State::Opening)
+            m_waiting.seek = Waiting::Seek{seconds, exact};
     });
+}
+
+void PlaySession::doSeek(double seconds, bool exact)
+{
+    const double total = sourceLength();
+    SeekQueue::Seek wanted;
+    wanted.target = total > 0 ? std::clamp(seconds, 0.0, total) : std::max(seconds, 0.0);
+    wanted.exact = exact;
+    if (m_speed.isStepping())
+        m_speed.reposition(wanted.target, EngineThread::Clock::now());
+    m_seeks.request(std::move(wanted));
+}
+
+void PlaySession::carryOutWaiting()
+{
+    const Waiting waiting = std::exchange(m_waiting, {});
+    if (waiting.pauseToggled)
+        m_speed.togglePause();
+    if (waiting.seek)
+        doSeek(waiting.seek->seconds, waiting.seek->exact);
 }
 
 void PlaySession::startSeek(const SeekQueue::Seek &seek)
@@ -211,15 +229,15 @@ int PlaySession::addSubtitle(const std::string &path)
         return -1;
     }
     file.close();
-    const auto answer = std::make_shared<std::promise<int>>();
+    auto answer = std::make_shared<std::promise<int>>();
     std::future<int> index = answer->get_future();
     std::error_code error;
     const std::string absolute = std::filesystem::absolute(nativePath(path), error).u8string();
     const std::string address = SubtitleText::addressOf(absolute);
-    post([this, address, answer] {
+    // The play alone holds the promise, which breaks when it ends meanwhile.
+    post([this, address, answer = std::move(answer)] {
         loadSubtitle(address, [answer](int found) { answer->set_value(found); });
     });
-    // The promise breaks when the play ends meanwhile.
     if (index.wait_for(subtitleLimit) != std::future_status::ready)
         return -1;
     try {
@@ -262,9 +280,9 @@ void PlaySession::loadSubtitle(const std::string &address, const std::function<v
 
 MpvValue PlaySession::readProperty(const std::string &name)
 {
-    const auto answer = std::make_shared<std::promise<MpvValue>>();
+    auto answer = std::make_shared<std::promise<MpvValue>>();
     std::future<MpvValue> value = answer->get_future();
-    post([this, name, answer] {
+    post([this, name, answer = std::move(answer)] {
         if (m_mpv)
             m_mpv->get(name, MpvHandle::Format::Node,
                        expect([answer](const MpvEvent &event) { answer->set_value(event.value); }));

@@ -141,6 +141,7 @@ void PlaySession::announceStart()
     applyTap();
     applyOverlay();
     addSubtitles();
+    carryOutWaiting();
     checkEnd();
 }
 
@@ -166,6 +167,7 @@ void PlaySession::fail(VD_PlayError error)
     if (m_state != State::Opening || m_failed)
         return;
     m_failed = true;
+    m_waiting = {};
     m_thread.cancel(m_openTimer);
     engineLog("[Play] cannot be played, error %d: %s", static_cast<int>(error), m_request.path.c_str());
     if (m_mpv && !m_plan.url.empty())

@@ -46,12 +46,17 @@ void MaintenanceRuns::uninstall()
 
 void MaintenanceRuns::fullUninstall()
 {
+    // The settings lie in the folder, and what is pending would bring it back when the process ends.
+    m_store.abandon();
     QDir folder(m_folders.dataFolder);
     if (folder.exists()) {
         const bool removed = folder.removeRecursively();
         logRemoval("[FullUninstall] remove ", m_folders.dataFolder, removed ? " success" : " fail");
     }
     uninstall();
+    // A server that was ended only now may have written once more, and who asks where a file of the program
+    // lies has its folder made.
+    folder.removeRecursively();
 }
 
 void MaintenanceRuns::removeOldConfiguration()

@@ -162,7 +162,7 @@ MaintenanceRuns StartupServices::maintenance()
 {
     const auto *info = ApplicationInfoManager::instance();
     return {*SettingsManager::instance(),
-            {info->dataFolder(), info->configurationFile(), info->updateTempFolder(),
+            {info->dataFolder(), info->configurationFile(), info->updateTempLocation(),
              ApplicationInfoManager::productName()},
             {[](bool enable) {
                  // An install registers the program with its handler.

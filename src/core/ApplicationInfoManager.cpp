@@ -155,7 +155,12 @@ QString ApplicationInfoManager::tempFolder() const
 
 QString ApplicationInfoManager::updateTempFolder() const
 {
-    return madeFolder(documentsFolder() + QStringLiteral("/%1/Temp/updateTemp").arg(productName()));
+    return madeFolder(updateTempLocation());
+}
+
+QString ApplicationInfoManager::updateTempLocation() const
+{
+    return documentsFolder() + QStringLiteral("/%1/Temp/updateTemp").arg(productName());
 }
 
 QString ApplicationInfoManager::updateConfigurationFile() const

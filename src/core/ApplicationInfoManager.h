@@ -69,6 +69,8 @@ public:
     [[nodiscard]] QString picturesFolder() const;
     [[nodiscard]] QString tempFolder() const;
     [[nodiscard]] QString updateTempFolder() const;
+    // Where it lies when there is one: nothing is made.
+    [[nodiscard]] QString updateTempLocation() const;
     [[nodiscard]] QString updateConfigurationFile() const;
     [[nodiscard]] QString posterTempFolder() const;
     [[nodiscard]] QString mediaServerFolder() const;

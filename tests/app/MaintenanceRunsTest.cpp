@@ -4,6 +4,7 @@
 #include "core/SettingsManager.h"
 #include "support/TestLog.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -137,6 +138,27 @@ TEST_F(MaintenanceRunsTest, FullUninstallAlsoRemovesTheDataFolder)
     EXPECT_FALSE(QDir(m_data).exists());
     EXPECT_TRUE(TestLog::infoLines().contains("[FullUninstall] remove " + m_data + " success"));
     EXPECT_EQ(m_actions, QStringList({"associations", "autoplay off", "server"}));
+}
+
+TEST_F(MaintenanceRunsTest, FullUninstallLeavesNothingThatPendingSettingsCouldBringBack)
+{
+    m_store = std::make_unique<SettingsManager>(m_config);
+    m_store->setValue(SettingsKeys::Version, "6.1.0.3");
+    runs().fullUninstall();
+    m_store->setValue(SettingsKeys::Version, "6.1.0.3");
+    m_store->sync();
+    m_store->setFileAssociations({"mkv"});
+    QCoreApplication::processEvents(); // QSettings writes by itself too
+    EXPECT_FALSE(QDir(m_data).exists());
+}
+
+TEST_F(MaintenanceRunsTest, FullUninstallRemovesWhatCameBackMeanwhile)
+{
+    MaintenanceRuns({*m_store,
+                     {m_data, m_config, m_update, kProduct},
+                     {[](bool) {}, [] {}, [this] { write(m_data + "/mediaServer/library.db", "late"); }}})
+        .fullUninstall();
+    EXPECT_FALSE(QDir(m_data).exists());
 }
 
 TEST_F(MaintenanceRunsTest, FullUninstallWithoutADataFolderLogsNothingOfIt)

@@ -201,6 +201,23 @@ TEST_F(ProgramTest, WithoutItsResourceFileItTellsSoAndRunsOn)
     EXPECT_TRUE(run.isRunning());
 }
 
+TEST_F(ProgramTest, AFileThatIsHandedOverWhileABoxIsOpenIsPlayedAfterIt)
+{
+    ProgramRun run(m_home, {}, copyWithout("quorin6.rcc"));
+    ASSERT_TRUE(m_home.waitForLog("File error: "));
+    const qulonglong first = Desktop::waitForWindow(run.id(), kTitle);
+    ASSERT_NE(first, 0U);
+    ProgramRun second(m_home, {m_blue});
+    EXPECT_EQ(second.waitForEnd(), 0);
+    Desktop::sendKey(first, "Return");
+    ASSERT_TRUE(m_home.waitForLog("File error: ", 2));
+    const qulonglong next = Desktop::waitForWindow(run.id(), kTitle);
+    ASSERT_NE(next, 0U);
+    Desktop::sendKey(next, "Return");
+    EXPECT_TRUE(m_home.waitForLog("[PlaySource]: " + m_blue));
+    EXPECT_TRUE(m_home.waitForLog("OnPlayBackStarted"));
+}
+
 TEST_F(ProgramTest, ClosingTheModeQuestionEndsWithOneAndKeepsTheKey)
 {
     m_home.writeSetting("launchModeVersion6", "0");
@@ -240,6 +257,27 @@ TEST_F(ProgramTest, AnInstallRunShowsNoWindowAndEndsWithZero)
     EXPECT_TRUE(m_home.log().contains("[Process] join plan: true"));
     EXPECT_FALSE(m_home.log().contains("Quorin 6 Started"));
     EXPECT_EQ(m_home.readSetting("PC_AddPlan"), "true");
+}
+
+TEST_F(ProgramTest, AFullUninstallLeavesNoDataFolderBehindOnceTheProcessHasEnded)
+{
+    m_home.writeSetting("PC_Language", "GER");
+    const QFileInfo data(QFileInfo(m_home.configurationFile()).path());
+    ASSERT_TRUE(data.isDir());
+    ProgramRun run(m_home, {"/full_uninstall"});
+    EXPECT_EQ(run.waitForEnd(), 0);
+    EXPECT_TRUE(m_home.log().contains("[FullUninstall] remove " + data.filePath() + " success"));
+    EXPECT_FALSE(QFileInfo::exists(data.filePath()));
+}
+
+TEST_F(ProgramTest, MaintenanceRunsMakeNoFolderForUpdates)
+{
+    const QString temp = m_home.filePath("Documents/" + kTitle + "/Temp");
+    for (const char *argument : {"/install", "/uninstall", "/full_uninstall"}) {
+        EXPECT_EQ(ProgramRun(m_home, {argument}).waitForEnd(), 0);
+        EXPECT_FALSE(QFileInfo::exists(temp + "/updateTemp")) << argument;
+        EXPECT_FALSE(m_home.log().contains("/updateTemp success")) << argument;
+    }
 }
 
 TEST_F(ProgramTest, AMissingFileIsToldAndTheProgramRunsOn)

@@ -29,6 +29,9 @@ constexpr const char *recorders[] = {
     "signal",
     "zoom",
     "video from",
+    "bildschirmaufnahme",
+    "enregistrement de l",
+    "grabación de pantalla",
 };
 
 constexpr const char *homeWords[] = {
@@ -93,7 +96,7 @@ bool isCamera(const QString &name)
     if (isNumbered(folded) || isTime(folded))
         return true;
     for (const char *recorder : recorders)
-        if (folded.startsWith(QLatin1String(recorder)) && digitsIn(folded) >= 6)
+        if (folded.startsWith(QString::fromUtf8(recorder)) && digitsIn(folded) >= 6)
             return true;
     return false;
 }

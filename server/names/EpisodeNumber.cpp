@@ -28,6 +28,23 @@ bool isYear(const Number &number)
     return number.digits == 4 && number.value >= 1900 && number.value <= 2099;
 }
 
+// "Saga Episode 4 (1977)", "Saga Episode 4 - The Title (1977)" and "10x10 (2018)": people write a year in
+// round brackets behind the names of films. An episode's "1x02 - Title (2010)" has its title between.
+bool isFilm(const EpisodeMatch &match, const QString &text)
+{
+    const QString rest = text.mid(match.end);
+    switch (match.spelling) {
+    case EpisodeMatch::Spelling::Sure:
+        return false;
+    case EpisodeMatch::Spelling::Cross:
+        return VideoName::parse(rest).yearInBrackets
+               && NameText::skipSeparators(rest, 0) == rest.indexOf(QLatin1Char('('));
+    case EpisodeMatch::Spelling::Word:
+        return VideoName::parse(rest).yearInBrackets;
+    }
+    return false;
+}
+
 // The groups in brackets, and with them what they hold, become spaces. Positions stay the same.
 QString withoutGroups(const QString &text)
 {
@@ -136,6 +153,8 @@ EpisodeNumber EpisodeNumber::parse(const QString &name, const Surroundings &arou
     const QString folded = NameText::folded(text);
     const EpisodeMatch match = EpisodePatterns::find(folded);
     const bool known = around.show || around.season >= 0;
+    if (match.isValid() && !known && isFilm(match, text))
+        return {};
     if (match.isValid()) {
         result.setTexts(text, match.start, match.end);
         // A date alone is a recording of some day, unless a series is around.

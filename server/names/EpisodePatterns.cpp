@@ -62,6 +62,7 @@ bool matchCross(const QString &text, int at, EpisodeMatch &match)
     const Number episode = NameText::numberAt(text, cross + 1, 3);
     if (episode.digits < 2)
         return false;
+    match.spelling = EpisodeMatch::Spelling::Cross;
     match.season = season.value;
     match.episode = match.lastEpisode = episode.value;
     const int behind = cross + 1 + episode.digits;
@@ -99,6 +100,7 @@ bool matchEpisodeWord(const QString &text, int at, EpisodeMatch &match)
     }
     if (!episode.isValid())
         return false;
+    match.spelling = EpisodeMatch::Spelling::Word;
     match.episode = match.lastEpisode = episode.value;
     match.end = skipFurtherNumbers(text, at + episode.length, episode.value, match.lastEpisode);
     return true;

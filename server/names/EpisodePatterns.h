@@ -9,6 +9,10 @@
 #include <QString>
 
 struct EpisodeMatch {
+    // How sure the spelling is: a word with a number and "10x10" are titles of films too.
+    enum class Spelling { Sure, Cross, Word };
+
+    Spelling spelling{Spelling::Sure};
     int start{-1};
     int end{-1};
     int season{-1}; // -1: the spelling tells none

@@ -76,10 +76,15 @@ SeasonFolder SeasonFolder::parse(const QString &name)
         && ReleaseWords::at(foldedRest, words.first().start).strength != ReleaseWords::Strength::None;
     const VideoName before = VideoName::parse(text.left(place.start));
     const bool named = !NameText::comparable(before.title).isEmpty();
-    const bool bracketed = NameText::comparable(rest).isEmpty() || rest.trimmed().startsWith(QLatin1Char('('))
-                           || rest.trimmed().startsWith(QLatin1Char('['));
+    const QString behind = rest.mid(NameText::skipSeparators(rest, 0)).trimmed();
+    const bool bracketed = NameText::comparable(rest).isEmpty() || behind.startsWith(QLatin1Char('('))
+                           || behind.startsWith(QLatin1Char('['));
     const bool labelled = rest.startsWith(QLatin1String(" - ")) || rest.startsWith(QLatin1Char(':'));
-    if (!bracketed && !released && !labelled && VideoName::parse(rest).year == 0)
+    // "Series 7 - The Title (2001)" is a film's folder; "Season 1 (2010)" tells the year of the season.
+    const VideoName label = VideoName::parse(rest);
+    if (!bracketed && !released && label.yearInBrackets)
+        return result;
+    if (!bracketed && !released && !labelled && label.year == 0)
         return result;
     result.number = place.number;
     if (named) {

@@ -138,6 +138,30 @@ TEST(EpisodeNumberNoneTest, WhatIsNoEpisodeGivesNone)
         EXPECT_EQ(EpisodeNumber::parse(QString::fromUtf8(name)).source, EpisodeNumber::Source::None) << name;
 }
 
+TEST(EpisodeNumberTest, ATitleWithAYearInRoundBracketsBehindAWordOrACrossIsAFilms)
+{
+    const struct {
+        const char *name;
+        bool episode;
+    } rows[] = {
+        {"Star Wars Episode 4 (1977)", false},
+        {"Saga Episode 4 - A Title (1977) 1080p", false},
+        {"10x10 (2018)", false},
+        {"Show S01E02 (2010)", true},
+        {"Show Season 1 Episode 2 (2010)", true},
+        {"Show 1x02 - Title (2010)", true},
+        {"Show (2010) Episode 4", true},
+        {"Show (2010) 1x02", true},
+        {"Show Episode 4 2010", true},
+    };
+    EpisodeNumber::Surroundings around;
+    around.show = true;
+    for (const auto &row : rows) {
+        EXPECT_EQ(EpisodeNumber::parse(row.name).isValid(), row.episode) << row.name;
+        EXPECT_TRUE(EpisodeNumber::parse(row.name, around).isValid()) << row.name;
+    }
+}
+
 struct DateRow {
     const char *name;
     int year;

@@ -56,6 +56,8 @@ TEST(SeasonFolderTest, SeasonsAreReadInManyLanguages)
         {"Season 1 (2010)", 1, ""},
         {"Season 1 - The Start", 1, ""},
         {"Season 1 [1080p]", 1, ""},
+        {"Season.1.(2010)", 1, ""},
+        {"Season 1 1080p (2010)", 1, ""},
     };
     for (const SeasonRow &row : rows) {
         const SeasonFolder folder = SeasonFolder::parse(QString::fromUtf8(row.name));
@@ -72,6 +74,9 @@ TEST(SeasonFolderTest, OtherFoldersAreNone)
                              "Seasons of Love",
                              "Season of the Witch",
                              "Season 1 of Love",
+                             "Series 7 - The Contenders (2001)",
+                             "Series 7 The Contenders (2001)",
+                             "Series 7: The Contenders (2001)",
                              "S",
                              "S01E02",
                              "Staff 1",
@@ -205,11 +210,26 @@ TEST(ExtraNameTest, FoldersAreKnown)
 
 TEST(CameraNameTest, CamerasAndRecordersAreKnown)
 {
-    for (const char *name :
-         {"IMG_1234", "VID_20200101_120000", "DSC00012", "MVI_0042", "GOPR0001", "GH010123",
-          "20200101_120000", "2020-01-01 12.00.00", "PXL_20210101_123456789", "VID-20200512-WA0003",
-          "WhatsApp Video 2020-05-01 at 12.00.00", "Screen Recording 2020-01-01 at 10.00.00", "DJI_0001",
-          "P1010001", "MOV_0001", "00012", "img_1234(1)"})
+    for (const char *name : {"IMG_1234",
+                             "VID_20200101_120000",
+                             "DSC00012",
+                             "MVI_0042",
+                             "GOPR0001",
+                             "GH010123",
+                             "20200101_120000",
+                             "2020-01-01 12.00.00",
+                             "PXL_20210101_123456789",
+                             "VID-20200512-WA0003",
+                             "WhatsApp Video 2020-05-01 at 12.00.00",
+                             "Screen Recording 2020-01-01 at 10.00.00",
+                             "DJI_0001",
+                             "P1010001",
+                             "MOV_0001",
+                             "00012",
+                             "img_1234(1)",
+                             "Screencast from 2020-01-01 12-00-00",
+                             "Bildschirmaufnahme 2020-01-01 um 12.00.00",
+                             "Grabación de pantalla 2020-01-01 a las 12.00.00"})
         EXPECT_TRUE(CameraName::isCamera(name)) << name;
     for (const char *name : {"", "Image of Love", "Film (2010)", "2012", "1917", "300", "VID", "IMG",
                              "Video Days 2010", "Morning 12345", "Pi", "P2", "Clip", "20209999_120000"})

@@ -2,6 +2,8 @@
 
 #include "DescriptionMerge.h"
 #include "FolderPath.h"
+#include "names/CameraName.h"
+#include "names/MoviePart.h"
 #include "names/NameText.h"
 #include "names/ReleaseWords.h"
 #include "names/SeasonFolder.h"
@@ -22,6 +24,57 @@ bool hasShowNfo(const QVector<FolderEntry> &entries)
     return std::any_of(entries.begin(), entries.end(), [](const FolderEntry &entry) {
         return !entry.isFolder && entry.name.compare(QLatin1String(showNfo), Qt::CaseInsensitive) == 0;
     });
+}
+
+// A day that a camera or a family wrote into the name. Daily shows have a folder of their own or another
+// name.
+bool isRecording(const VideoCandidate &candidate, const EpisodeNumber &number)
+{
+    return number.source == EpisodeNumber::Source::Date
+           && (CameraName::isCamera(candidate.name) || CameraName::isHome(candidate.name));
+}
+
+// What files must share, beside their number, to be versions or parts of one episode: versions leave and are
+// deleted together. The number in a name that says so is trusted more than a day, on which much may happen.
+QString versionKey(const VideoCandidate &file, const EpisodeNumber &number)
+{
+    QString text = number.title;
+    if (!number.isValid() || number.source == EpisodeNumber::Source::Date) {
+        const int release = ReleaseWords::start(NameText::folded(file.name));
+        text = release > 0 ? file.name.left(release) : file.name;
+    }
+    const MoviePart part = MoviePart::parse(text);
+    return NameText::comparable(part.isValid() ? part.stem : text);
+}
+
+struct Numbered {
+    ScannedVideo video;
+    QString versionKey;
+};
+
+auto placeOf(const Numbered &episode)
+{
+    const ScannedVideo &video = episode.video;
+    return std::tie(video.showKey, video.season, video.episode, video.lastEpisode, episode.versionKey);
+}
+
+// Sorts the episodes. Several files of one are versions of it, the sharper one first; its parts go by their
+// names.
+void leadVersions(QVector<Numbered> &episodes)
+{
+    const auto sharpness = [](const Numbered &episode) {
+        return ReleaseWords::resolution(NameText::folded(FolderPath::nameOf(episode.video.path)));
+    };
+    std::stable_sort(episodes.begin(), episodes.end(), [&](const Numbered &a, const Numbered &b) {
+        return placeOf(a) == placeOf(b) ? sharpness(a) > sharpness(b) : placeOf(a) < placeOf(b);
+    });
+    const Numbered *lead = nullptr;
+    for (Numbered &episode : episodes) {
+        if (lead && placeOf(*lead) == placeOf(episode))
+            episode.video.leadPath = lead->video.path;
+        else
+            lead = &episode;
+    }
 }
 
 // A number under 100 among bare ones says that the longer ones are counted through as well.
@@ -90,8 +143,12 @@ void EpisodeIdentifier::findShowFolder()
                 title = VideoName::parse(FolderPath::nameOf(FolderPath::parentOf(path))).title;
         }
     }
-    if (m_showFolder.isEmpty())
+    if (m_showFolder.isEmpty()) {
+        const VideoName own = VideoName::parse(FolderPath::nameOf(path));
+        if (own.yearInBrackets && !EpisodeNumber::parse(FolderPath::nameOf(path)).isValid())
+            m_filmTitle = NameText::comparable(own.title);
         return;
+    }
     m_around.show = true;
     m_showEntries = m_showFolder == path ? m_listing.entries : m_files.list(m_showFolder);
     const VideoName name = VideoName::parse(FolderPath::nameOf(m_showFolder));
@@ -108,8 +165,11 @@ void EpisodeIdentifier::take(QVector<VideoCandidate> &candidates, IdentifiedFold
         EpisodeNumber number = EpisodeNumber::parse(candidate.name, m_around);
         const NfoRecord *record = candidate.record(NfoRecord::Kind::Episode);
         const bool told = record && record->episode >= 0;
-        const bool film = candidate.record(NfoRecord::Kind::Movie) && !m_around.show;
-        if (film || (!number.isValid() && !told))
+        const bool film = (candidate.record(NfoRecord::Kind::Movie) && !m_around.show)
+                          || (!m_filmTitle.isEmpty() && number.isValid() && !told
+                              && NameText::comparable(VideoName::parse(candidate.name).title) == m_filmTitle);
+        const bool recording = !m_around.show && !told && isRecording(candidate, number);
+        if (film || recording || (!number.isValid() && !told))
             rest.append(candidate);
         else
             found.append({candidate, number});
@@ -125,39 +185,22 @@ void EpisodeIdentifier::take(QVector<VideoCandidate> &candidates, IdentifiedFold
 
     QMap<QString, int> shows; // key to the first of its files
     QHash<QString, QSet<int>> seasons;
-    QVector<ScannedVideo> episodes;
+    QVector<Numbered> episodes;
     for (int i = 0; i < found.size(); ++i) {
         const QString key = keyOf(found.at(i), series.size() > 1);
         if (!shows.contains(key))
             shows.insert(key, i);
-        episodes.append(toEpisode(found.at(i), key));
-        seasons[key].insert(episodes.last().season);
+        episodes.append({toEpisode(found.at(i), key), versionKey(found.at(i).file, found.at(i).number)});
+        seasons[key].insert(episodes.last().video.season);
     }
-    // Two files of one episode are versions of it, the sharper one first; two files of several parts go by
-    // their names.
-    std::stable_sort(episodes.begin(), episodes.end(), [](const ScannedVideo &a, const ScannedVideo &b) {
-        const auto place = [](const ScannedVideo &video) {
-            return std::make_tuple(
-                video.showKey, video.season, video.episode, video.lastEpisode,
-                -ReleaseWords::resolution(NameText::folded(FolderPath::nameOf(video.path))));
-        };
-        return place(a) < place(b);
-    });
-    const ScannedVideo *lead = nullptr;
-    for (ScannedVideo &episode : episodes) {
-        const bool same = lead && lead->showKey == episode.showKey && lead->season == episode.season
-                          && lead->episode == episode.episode && lead->lastEpisode == episode.lastEpisode;
-        if (same)
-            episode.leadPath = lead->path;
-        else
-            lead = &episode;
-    }
+    leadVersions(episodes);
     for (auto it = shows.cbegin(); it != shows.cend(); ++it) {
         ScannedShow show = describeShow(it.key(), found.at(it.value()));
         describeSeasons(show, seasons.value(it.key()));
         result.shows.append(show);
     }
-    result.videos += episodes;
+    for (const Numbered &episode : qAsConst(episodes))
+        result.videos.append(episode.video);
 }
 
 QString EpisodeIdentifier::titleOf(const Found &found) const
@@ -218,9 +261,12 @@ ScannedVideo EpisodeIdentifier::toEpisode(const Found &found, const QString &key
             Description description = record.description;
             DescriptionMerge::fill(description, video.description);
             video.description = description;
+            // A sidecar of the first episode alone says nothing against the others that the name tells.
+            const bool agrees =
+                record.episode == video.episode && (record.season < 0 || record.season == video.season);
             if (record.season >= 0)
                 video.season = record.season;
-            if (record.episode >= 0)
+            if (record.episode >= 0 && !agrees)
                 video.episode = video.lastEpisode = record.episode;
         }
         video.lastEpisode = qMax(video.lastEpisode, record.episode);

@@ -37,4 +37,5 @@ private:
     QVector<FolderEntry> m_showEntries;
     EpisodeNumber::Surroundings m_around;
     int m_seriesYear{0};
+    QString m_filmTitle; // of a film's folder ("10x10 (2018)"), to compare by; its own file is no episode
 };

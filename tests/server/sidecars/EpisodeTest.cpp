@@ -151,6 +151,93 @@ TEST(EpisodeTest, TwoFilesOfOneEpisodeAreVersions)
     EXPECT_EQ(videos.at(1).leadPath, videos.at(0).path);
 }
 
+TEST(EpisodeTest, VersionsAreFilesOfOneNameWithoutTheWordsOfTheRelease)
+{
+    const struct {
+        const char *one;
+        const char *other;
+        bool versions;
+    } rows[] = {
+        {"Foo/Season 1/Foo S01E01 720p.mkv", "Foo S01E01 1080p.mkv", true},
+        {"Foo/Season 1/Foo.S01E01.Pilot.720p.HDTV-A.mkv", "Foo - S01E01 - Pilot.mkv", true},
+        {"Foo/Season 1/[A] Foo - 01 [720p].mkv", "[B] Foo - 01 [1080p].mkv", true},
+        {"Foo/Season 1/Foo S01E01 Pilot part1.mkv", "Foo S01E01 Pilot part2.mkv", true},
+        {"Foo/Season 1/Foo S01E01 Pilot.mkv", "Foo S01E01 Finale.mkv", false},
+        {"Talk/Season 2010/Talk 2010-05-12 720p.mkv", "Talk 2010-05-12 1080p.mkv", true},
+        {"Talk/Season 2010/Talk 2010-05-12 morning.mkv", "Talk 2010-05-12 evening.mkv", false},
+        {"Talk/Season 2010/Talk 2010-05-12 [morning].mkv", "Talk 2010-05-12 [evening].mkv", false},
+        {"Talk/Season 2010/2010-05-12 09.00.mkv", "2010-05-12 18.00.mkv", false},
+    };
+    for (const auto &row : rows) {
+        MemoryFolders folders;
+        const QString one = QStringLiteral("/lib/") + row.one;
+        const QString folder = one.left(one.lastIndexOf('/'));
+        folders.add(one);
+        folders.add(folder + '/' + row.other);
+        const QVector<ScannedVideo> videos = folders.identify(folder).videos;
+        ASSERT_EQ(videos.size(), 2) << row.one;
+        EXPECT_EQ(videos.at(0).kind, Kind::Episode) << row.one;
+        EXPECT_EQ(videos.at(0).leadPath, "") << row.one;
+        EXPECT_EQ(videos.at(1).leadPath, row.versions ? videos.at(0).path : QString()) << row.one;
+    }
+}
+
+TEST(EpisodeTest, RecordingsOfOneDayAreVideosOfTheirOwn)
+{
+    const char *const rows[][2] = {
+        {"WhatsApp Video 2020-01-01 at 12.00.00.mp4", "WhatsApp Video 2020-01-01 at 15.30.00.mp4"},
+        {"Screen Recording 2020-01-01 at 10.00.00.mov", "Screen Recording 2020-01-01 at 11.00.00.mov"},
+        {"Screencast from 2020-01-01 10-00-00.webm", "Screencast from 2020-01-01 11-00-00.webm"},
+        {"Screencast from 01-01-2020 10:00:00.webm", "Screencast from 01-01-2020 11:00:00.webm"},
+        {"Vacation 2015-07-03 beach.mp4", "Vacation 2015-07-03 hotel.mp4"},
+    };
+    for (const auto &row : rows) {
+        for (const char *folder : {"/lib", "/lib/Mine", "/lib/2020-01-01", "/lib/Vacation 2015-07-03"}) {
+            MemoryFolders folders;
+            for (const char *name : row)
+                folders.add(QString(folder) + '/' + name);
+            const IdentifiedFolder found = folders.identify(folder);
+            ASSERT_EQ(found.videos.size(), 2) << row[0];
+            EXPECT_TRUE(found.shows.isEmpty()) << row[0];
+            for (const ScannedVideo &video : found.videos) {
+                EXPECT_EQ(video.kind, Kind::Video) << folder << row[0];
+                EXPECT_EQ(video.leadPath, "") << folder << row[0];
+            }
+        }
+    }
+    // Among the files of a show the day is the episode's.
+    MemoryFolders folders;
+    folders.add("/lib/Family Talk/tvshow.nfo", "<tvshow/>");
+    folders.add("/lib/Family Talk/Family Talk 2010-05-12.mkv");
+    EXPECT_EQ(folders.identify("/lib/Family Talk").videos.value(0).kind, Kind::Episode);
+}
+
+TEST(EpisodeTest, ASidecarOfTheFirstEpisodeLeavesTheOthersOfTheFile)
+{
+    const struct {
+        const char *name;
+        const char *nfo;
+        int season;
+        int first;
+        int last;
+    } rows[] = {
+        {"Foo S01E01-E02", "<season>1</season><episode>1</episode>", 1, 1, 2},
+        {"Foo S01E01-E02", "<episode>1</episode>", 1, 1, 2},
+        {"Foo S01E01-E02", "<season>1</season><episode>5</episode>", 1, 5, 5},
+        {"Foo S01E01-E02", "<season>2</season><episode>1</episode>", 2, 1, 1},
+    };
+    for (const auto &row : rows) {
+        MemoryFolders folders;
+        const QString file = QStringLiteral("/lib/Foo/Season 1/") + row.name;
+        folders.add(file + ".mkv");
+        folders.add(file + ".nfo", QByteArray("<episodedetails>") + row.nfo + "</episodedetails>");
+        const ScannedVideo video = folders.identify("/lib/Foo/Season 1").videos.value(0);
+        EXPECT_EQ(video.season, row.season) << row.nfo;
+        EXPECT_EQ(video.episode, row.first) << row.nfo;
+        EXPECT_EQ(video.lastEpisode, row.last) << row.nfo;
+    }
+}
+
 TEST(EpisodeTest, WhatHasNoNumberInASeasonIsAVideo)
 {
     MemoryFolders folders;

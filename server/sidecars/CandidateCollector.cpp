@@ -37,13 +37,26 @@ CandidateCollector::CandidateCollector(const IFolderFiles &files)
 {
 }
 
+qint64 CandidateCollector::sizeOfFiles(const QString &folder) const
+{
+    qint64 size = 0;
+    for (const FolderEntry &entry : m_files.list(folder))
+        size += entry.stamp.size;
+    return size;
+}
+
 QVector<VideoCandidate> CandidateCollector::discs(const FolderListing &listing) const
 {
     QVector<VideoCandidate> result;
     const auto add = [&](const QString &folder, const QString &structure, const FileStamp &stamp) {
         QStringList names;
-        for (const FolderEntry &inner : m_files.list(structure))
+        FileStamp discStamp = stamp;
+        for (const FolderEntry &inner : m_files.list(structure)) {
             names.append(inner.name);
+            // A folder has no size of its own, and without one a disc that is moved would not be known again.
+            discStamp.size +=
+                inner.isFolder ? sizeOfFiles(FolderPath::join(structure, inner.name)) : inner.stamp.size;
+        }
         const QString pseudo = DiscStructure::pseudoFile(FolderPath::nameOf(structure), names);
         if (pseudo.isEmpty())
             return;
@@ -51,7 +64,7 @@ QVector<VideoCandidate> CandidateCollector::discs(const FolderListing &listing) 
         disc.name = FolderPath::nameOf(folder);
         disc.path = FolderPath::join(folder, pseudo);
         disc.realPath = structure;
-        disc.stamp = stamp;
+        disc.stamp = discStamp;
         disc.isDisc = true;
         result.append(disc);
     };

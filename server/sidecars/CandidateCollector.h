@@ -17,6 +17,8 @@ public:
 
 private:
     [[nodiscard]] QVector<VideoCandidate> discs(const FolderListing &listing) const;
+    // Bytes of the files in the folder itself.
+    [[nodiscard]] qint64 sizeOfFiles(const QString &folder) const;
 
     const IFolderFiles &m_files;
 };

@@ -1,9 +1,10 @@
 #include "FilmIdentifier.h"
 
+#include "CandidateCollector.h"
 #include "DescriptionMerge.h"
 #include "FolderPath.h"
 #include "names/CameraName.h"
-#include "names/DiscStructure.h"
+#include "names/EpisodeNumber.h"
 #include "names/MoviePart.h"
 #include "names/MovieVersion.h"
 #include "names/NameText.h"
@@ -25,6 +26,13 @@ QString filmFolderName(const FolderListing &listing)
     const QString parent = FolderPath::parentOf(listing.path);
     const bool markOnly = part.isValid() && NameText::comparable(part.stem).isEmpty();
     return markOnly && FolderPath::isBelow(parent, listing.rootPath) ? FolderPath::nameOf(parent) : name;
+}
+
+// A folder of recordings: what its files have behind its name are no labels of versions.
+bool isAlbum(const QString &folderName)
+{
+    return CameraName::isCamera(folderName)
+           || (CameraName::isHome(folderName) && !VideoName::parse(folderName).yearInBrackets);
 }
 
 const NfoRecord *filmRecord(const QVector<NfoRecord> &records)
@@ -53,8 +61,9 @@ void FilmIdentifier::take(const QVector<VideoCandidate> &candidates, IdentifiedF
     const bool sole = all.size() == 1 && result.videos.isEmpty() && !m_folderName.isEmpty();
     for (const Group &group : all) {
         ScannedVideo lead = identify(group, sole);
-        if (group.first().isDisc)
-            lead.leadPath = earlierDisc(group.first());
+        // Videos of one's own are kept apart: what belongs together is deleted together.
+        if (group.first().isDisc || (sole && lead.kind != ScannedVideo::Kind::Video))
+            lead.leadPath = earlierPart(group.first());
         result.videos.append(lead);
         for (int i = 1; i < group.size(); ++i) {
             ScannedVideo other = group.at(i).toVideo(lead.kind);
@@ -95,7 +104,7 @@ QVector<FilmIdentifier::Group> FilmIdentifier::groups(const QVector<VideoCandida
         }
         result.append(group);
     }
-    if (m_folderName.isEmpty() || result.size() < 2)
+    if (m_folderName.isEmpty() || result.size() < 2 || isAlbum(m_folderName))
         return result;
 
     QVector<QPair<MovieVersion, int>> versions;
@@ -190,23 +199,31 @@ QVector<NfoRecord> FilmIdentifier::folderNfo() const
         m_files.read(FolderPath::join(m_listing.path, names.first()), NfoReader::largestFile));
 }
 
-// "Film (2010)/Disc 2" is a part of the film that "Disc 1" beside it begins.
-QString FilmIdentifier::earlierDisc(const VideoCandidate &disc) const
+// "Film (2010)/Disc 2" is a part of the film that "Disc 1" beside it begins; so is the only file of a folder
+// that is called no more than "CD 2".
+QString FilmIdentifier::earlierPart(const VideoCandidate &candidate) const
 {
     const MoviePart part = MoviePart::parse(FolderPath::nameOf(m_listing.path));
     const QString parent = FolderPath::parentOf(m_listing.path);
+    const bool isMarkAlone = NameText::comparable(part.stem).isEmpty();
     if (part.number < 2 || !FolderPath::isBelow(m_listing.path, m_listing.rootPath)
-        || (part.stem.isEmpty() && !FolderPath::isBelow(parent, m_listing.rootPath)))
+        || (isMarkAlone && !FolderPath::isBelow(parent, m_listing.rootPath))
+        || (!isMarkAlone && !candidate.isDisc))
         return {};
     for (const FolderEntry &entry : m_files.list(parent)) {
         const MoviePart other = entry.isFolder ? MoviePart::parse(entry.name) : MoviePart();
         if (other.number != 1 || other.stem.compare(part.stem, Qt::CaseInsensitive) != 0)
             continue;
         const QString folder = FolderPath::join(parent, entry.name);
-        const QString pseudo = FolderPath::nameOf(disc.path);
-        const QString structure = FolderPath::join(folder, FolderPath::nameOf(disc.realPath));
-        if (m_files.exists(structure))
-            return FolderPath::join(folder, pseudo);
+        const QVector<VideoCandidate> first = CandidateCollector(m_files).collect(
+            {folder, m_listing.rootPath, m_listing.adult, m_files.list(folder)});
+        for (const VideoCandidate &one : first) {
+            const bool begins = candidate.isDisc ? one.isDisc
+                                                 : !one.isDisc && first.size() == 1
+                                                       && !EpisodeNumber::parse(one.name).isValid();
+            if (begins)
+                return one.path;
+        }
     }
     return {};
 }

@@ -20,7 +20,7 @@ private:
     [[nodiscard]] QVector<Group> groups(const QVector<VideoCandidate> &candidates) const;
     [[nodiscard]] ScannedVideo identify(const Group &group, bool sole) const;
     [[nodiscard]] QVector<NfoRecord> folderNfo() const;
-    [[nodiscard]] QString earlierDisc(const VideoCandidate &disc) const;
+    [[nodiscard]] QString earlierPart(const VideoCandidate &candidate) const;
 
     const IFolderFiles &m_files;
     const FolderListing &m_listing;

@@ -33,6 +33,11 @@ TEST(FilmTest, NamesAndFoldersTellFilmsFromVideos)
         {"/lib/Their Wedding (1997).mkv", Kind::Movie, "Their Wedding", 1997},
         {"/lib/2020-05-12 Garden.mp4", Kind::Video, "2020-05-12 Garden", 0},
         {"/lib/Film {tmdb-12}.mkv", Kind::Movie, "Film", 0},
+        {"/lib/Star Wars Episode 4 (1977).mkv", Kind::Movie, "Star Wars Episode 4", 1977},
+        {"/lib/Saga Episode 4 - A Title (1977).mkv", Kind::Movie, "Saga Episode 4 - A Title", 1977},
+        {"/lib/10x10 (2018).mkv", Kind::Movie, "10x10", 2018},
+        {"/lib/10x10 (2018)/10x10.mkv", Kind::Movie, "10x10", 2018},
+        {"/lib/Series 7 - The Contenders (2001)/film.mkv", Kind::Movie, "Series 7 - The Contenders", 2001},
         {"/lib/....mkv", Kind::Video, "...", 0},
         {"/lib/a\nb.mkv", Kind::Video, "a b", 0},
     };
@@ -70,6 +75,19 @@ TEST(FilmTest, VersionsHangOnTheSharpest)
     for (int i = 1; i < 3; ++i) {
         EXPECT_EQ(videos.at(i).leadPath, videos.at(0).path);
         EXPECT_EQ(videos.at(i).kind, Kind::Movie);
+    }
+}
+
+TEST(FilmTest, RecordingsThatAreNamedAfterTheirFolderAreNoVersions)
+{
+    for (const char *folder : {"/lib/Vacation 2015", "/lib/2015-07-03", "/lib/Wedding"}) {
+        MemoryFolders folders;
+        for (const char *label : {" - beach.mp4", " - hotel.mp4"})
+            folders.add(QString(folder) + '/' + QString(folder).mid(5) + label);
+        const QVector<ScannedVideo> videos = folders.identify(folder).videos;
+        ASSERT_EQ(videos.size(), 2) << folder;
+        for (const ScannedVideo &video : videos)
+            EXPECT_EQ(video.leadPath, "") << folder;
     }
 }
 
@@ -194,6 +212,42 @@ TEST(FilmTest, LaterDiscsOfAFilmHangOnTheFirst)
     EXPECT_EQ(first.description.title, "Film");
     EXPECT_EQ(first.leadPath, "");
     EXPECT_EQ(second.leadPath, first.path);
+}
+
+TEST(FilmTest, PartsInFoldersOfTheirOwnHangOnTheFirst)
+{
+    MemoryFolders folders;
+    for (const char *path :
+         {"Film (2010)/CD1/film.avi", "Film (2010)/CD2/film.avi", "Film (2010)/CD3/one.avi",
+          "Film (2010)/CD3/two.avi", "Holiday/CD1/a.avi", "Holiday/CD2/b.avi", "Other (2011) part 1/a.avi",
+          "Other (2011) part 2/b.avi", "CD1/Third (2012).avi", "CD2/Fourth (2013).avi",
+          "Show (2014)/CD1/Show S01E01.avi", "Show (2014)/CD2/making of.avi"})
+        folders.add(QStringLiteral("/lib/") + path);
+    const struct {
+        const char *folder;
+        const char *lead;
+    } rows[] = {
+        {"Film (2010)/CD1", ""},     {"Film (2010)/CD2", "/lib/Film (2010)/CD1/film.avi"},
+        {"Film (2010)/CD3", ""},     {"Holiday/CD2", ""},
+        {"Other (2011) part 2", ""}, {"CD2", ""},
+        {"Show (2014)/CD2", ""},
+    };
+    for (const auto &row : rows) {
+        const QVector<ScannedVideo> videos = folders.identify(QStringLiteral("/lib/") + row.folder).videos;
+        EXPECT_FALSE(videos.isEmpty()) << row.folder;
+        for (const ScannedVideo &video : videos)
+            EXPECT_EQ(video.leadPath, row.lead) << row.folder;
+    }
+}
+
+TEST(FilmTest, ADiscHasTheSizeOfItsFiles)
+{
+    MemoryFolders folders;
+    folders.add("/lib/A/VIDEO_TS/VIDEO_TS.IFO", QByteArray(9, 'x'));
+    folders.add("/lib/A/VIDEO_TS/VTS_01_1.VOB", QByteArray(99, 'x'));
+    folders.add("/lib/B/BDMV/STREAM/00001.m2ts", QByteArray(49, 'x'));
+    EXPECT_EQ(folders.identify("/lib/A").videos.value(0).stamp.size, 110);
+    EXPECT_EQ(folders.identify("/lib/B").videos.value(0).stamp.size, 50);
 }
 
 TEST(FilmTest, ALooseDvdIsOneItem)

@@ -10,6 +10,8 @@
 struct DirectoryListing {
     enum class Outcome { Read, Unreadable, Gone, TooLong };
 
+    // Unreadable also where an entry's size and time cannot be had: only what is known to be gone is left
+    // out.
     Outcome outcome{Outcome::Gone};
     // The same for two paths that lead to one directory.
     QPair<quint64, quint64> identity;

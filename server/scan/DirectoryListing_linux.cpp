@@ -74,8 +74,13 @@ DirectoryListing DirectoryListing::read(const QString &path)
         }
         if (isHidden(entry->d_name) || !mayCount(entry->d_type))
             continue;
-        if (::fstatat(handle, entry->d_name, &info, AT_SYMLINK_NOFOLLOW) != 0)
-            continue;
+        if (::fstatat(handle, entry->d_name, &info, AT_SYMLINK_NOFOLLOW) != 0) {
+            if (errno == ENOENT)
+                continue; // deleted just now
+            // Whether the file is still there cannot be told, so nothing is told of the folder.
+            listing.outcome = Outcome::Unreadable;
+            return listing;
+        }
         const bool isFolder = S_ISDIR(info.st_mode);
         if (!isFolder && !S_ISREG(info.st_mode))
             continue;

@@ -20,9 +20,6 @@ DirectoryListing::Outcome failure(DWORD error)
     switch (error) {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
-    case ERROR_NOT_READY:
         return DirectoryListing::Outcome::Gone;
     case ERROR_FILENAME_EXCED_RANGE:
         return DirectoryListing::Outcome::TooLong;

@@ -1,8 +1,8 @@
 #include "Connection.h"
 
 #include <QDebug>
-#include <QHash>
 #include <QSqlError>
+#include <QSqlQuery>
 
 #include <atomic>
 
@@ -18,13 +18,6 @@ QString nextName()
 }
 
 } // namespace
-
-std::size_t Connection::TextHash::operator()(const QString &sql) const
-{
-    constexpr qsizetype kHashed = 48;
-    const QStringView text(sql);
-    return qHash(text.right(qMin(kHashed, text.size()))) + static_cast<uint>(sql.size());
-}
 
 Connection::Connection(const ConnectionSettings &settings, Access access)
     : m_settings(settings)
@@ -79,18 +72,18 @@ bool Connection::isOpen() const
 
 Statement Connection::prepare(const QString &sql)
 {
-    const auto known = m_prepared.find(sql);
-    if (known != m_prepared.end())
-        return Statement(&known->second, &m_counters);
-    QSqlQuery query(m_database);
+    if (PreparedStatements::Query known = m_prepared.find(sql))
+        return Statement(std::move(known), &m_counters);
+    auto query = std::make_shared<QSqlQuery>(m_database);
     // A server's rows are fetched at once: read one by one they would shut out every other statement
     // meanwhile.
-    query.setForwardOnly(isFile());
-    if (!isOpen() || !query.prepare(sql)) {
-        qWarning().noquote() << "[store] cannot prepare:" << query.lastError().text() << "in" << sql;
+    query->setForwardOnly(isFile());
+    if (!isOpen() || !query->prepare(sql)) {
+        qWarning().noquote() << "[store] cannot prepare:" << query->lastError().text() << "in" << sql;
         return Statement(nullptr, &m_counters);
     }
-    return Statement(&m_prepared.emplace(sql, std::move(query)).first->second, &m_counters);
+    m_prepared.insert(sql, query);
+    return Statement(std::move(query), &m_counters);
 }
 
 bool Connection::execute(const QString &sql)

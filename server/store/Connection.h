@@ -2,13 +2,11 @@
 #pragma once
 
 #include "ConnectionSettings.h"
+#include "PreparedStatements.h"
 #include "Statement.h"
 
 #include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QString>
-
-#include <unordered_map>
 
 class Connection final {
 public:
@@ -27,7 +25,8 @@ public:
     [[nodiscard]] bool isFile() const { return m_settings.isFile(); }
     [[nodiscard]] const ConnectionSettings &settings() const { return m_settings; }
 
-    // The statement stays prepared for the next use. Two uses of the same text must not overlap.
+    // The statement stays prepared for the next use, while no more than so many others are used in between.
+    // Two uses of the same text must not overlap.
     [[nodiscard]] Statement prepare(const QString &sql);
     // Runs a statement once, without values.
     bool execute(const QString &sql);
@@ -38,20 +37,16 @@ public:
 
     // All that was run over this connection, for tests of the cost of an operation.
     [[nodiscard]] const StatementCounters &counters() const { return m_counters; }
+    // How many statements are kept prepared, for tests of the memory.
+    [[nodiscard]] std::size_t preparedCount() const { return m_prepared.size(); }
 
 private:
-    // The end of a statement and its length tell most from each other: reading a long text whole for each use
-    // costs as much as some uses do.
-    struct TextHash {
-        [[nodiscard]] std::size_t operator()(const QString &sql) const;
-    };
-
     bool configure(Access access);
 
     ConnectionSettings m_settings;
     QString m_name;
     QSqlDatabase m_database;
-    std::unordered_map<QString, QSqlQuery, TextHash> m_prepared;
+    PreparedStatements m_prepared;
     StatementCounters m_counters;
     Durability m_durability{Durability::Relaxed};
 };

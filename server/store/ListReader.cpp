@@ -4,6 +4,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -27,29 +28,43 @@ struct Query {
     QStringList values;
 };
 
+// value: folded.
 void addCondition(Query *query, QLatin1String condition, const QString &value)
 {
     query->text += QStringLiteral(" AND ") + condition;
-    query->values << TextFold::containing(TextFold::folded(value));
+    query->values << TextFold::containing(value);
+}
+
+void tellUnknownFields(const ListRequest &request)
+{
+    for (const FieldFilter &filter : request.filters) {
+        const bool known =
+            std::any_of(std::begin(kFilters), std::end(kFilters),
+                        [&](const FilterColumn &column) { return filter.field == column.field; });
+        if (!known)
+            qWarning() << "[store] a list cannot be filtered by" << filter.field;
+    }
 }
 
 Query queryFor(const ListSource &source, const ListRequest &request)
 {
     Query query{QStringLiteral("SELECT %1 FROM %2 WHERE %3").arg(source.id, source.tables, source.condition),
                 source.values};
-    for (const FieldFilter &filter : request.filters) {
-        bool known = false;
-        for (const FilterColumn &column : kFilters) {
-            if (filter.field == column.field) {
-                addCondition(&query, column.condition, filter.value);
-                known = true;
-            }
+    // All must hold, so the same conditions in another order or said twice are the same list.
+    for (const FilterColumn &column : kFilters) {
+        QStringList values;
+        for (const FieldFilter &filter : request.filters) {
+            if (filter.field == column.field)
+                values << TextFold::folded(filter.value);
         }
-        if (!known)
-            qWarning() << "[store] a list cannot be filtered by" << filter.field;
+        values.sort();
+        values.removeDuplicates();
+        for (const QString &value : qAsConst(values))
+            addCondition(&query, column.condition, value);
     }
+    tellUnknownFields(request);
     if (!request.pattern.isEmpty())
-        addCondition(&query, kSearch, request.pattern);
+        addCondition(&query, kSearch, TextFold::folded(request.pattern));
     const QString column = source.columns.value(
         request.sort, source.columns.value(SortMethod::Title, QStringLiteral("sort_title")));
     query.text +=

@@ -4,8 +4,8 @@
 #include <QSqlError>
 #include <QVariant>
 
-Statement::Statement(QSqlQuery *query, StatementCounters *counters)
-    : m_query(query)
+Statement::Statement(std::shared_ptr<QSqlQuery> query, StatementCounters *counters)
+    : m_query(std::move(query))
     , m_counters(counters)
 {
 }

@@ -6,6 +6,8 @@
 #include <QSqlQuery>
 #include <QString>
 
+#include <memory>
+
 struct StatementCounters {
     qint64 statements{0};
     qint64 rows{0};
@@ -13,8 +15,9 @@ struct StatementCounters {
 
 class Statement final {
 public:
-    // Without a query (what could not be prepared) every run fails.
-    Statement(QSqlQuery *query, StatementCounters *counters);
+    // Without a query (what could not be prepared) every run fails. It is shared with those that are kept
+    // prepared, which may let it go during the use.
+    Statement(std::shared_ptr<QSqlQuery> query, StatementCounters *counters);
     ~Statement();
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
@@ -42,7 +45,7 @@ public:
     [[nodiscard]] int changed() const;
 
 private:
-    QSqlQuery *m_query;
+    const std::shared_ptr<QSqlQuery> m_query;
     StatementCounters *m_counters;
     int m_position{0};
 };

@@ -13,6 +13,8 @@ namespace ParameterChecker {
 namespace {
 
 constexpr int shownText = 64; // characters of a foreign text that an error repeats
+// Beyond it a number of JSON is not the one that was written, and so no text either.
+constexpr double exactNumbers = 9007199254740992.0;
 
 struct NamedSort {
     QLatin1String text;
@@ -186,7 +188,7 @@ QString readObject(QLatin1String key, const QJsonValue &value, ObjectReader read
 QString readLooseText(const ParamRow &row, const QJsonValue &value, Params &params)
 {
     const std::optional<int> number = wholeNumber(value);
-    if (row.type == ParamType::LooseText && number) {
+    if (row.type == ParamType::LooseText && number && std::fabs(value.toDouble()) <= exactNumbers) {
         params.setText(row.key, QString::number(qRound64(value.toDouble())));
         return {};
     }

@@ -13,7 +13,7 @@
 enum class ParamType {
     Integer,
     Text,
-    LooseText, // a text, or a whole number in place of one
+    LooseText, // a text, or a whole number of up to 2^53 in place of one
     Document,  // a text that is JSON itself, and so may be long
     Flag,
     Limits,

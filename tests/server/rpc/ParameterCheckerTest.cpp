@@ -45,6 +45,9 @@ TEST(ParameterCheckerTest, NamesTheKeyThatIsMissingOrOfAWrongType)
          "key \"title\" must be a shorter text"},
         {loose, R"({"port":1.5})", "key \"port\" must be a text"},
         {loose, R"({"port":[]})", "key \"port\" must be a text"},
+        {loose, R"({"port":1e300})", "key \"port\" must be a text"},
+        {loose, R"({"port":-1e300})", "key \"port\" must be a text"},
+        {loose, R"({"port":9007199254740994})", "key \"port\" must be a text"},
         {flag, R"({"deleteFile":1})", "key \"deleteFile\" must be true or false"},
         {flag, R"({"deleteFile":"true"})", "key \"deleteFile\" must be true or false"},
         {limits, R"({"limits":[0,1]})", "key \"limits\" must be an object"},
@@ -144,4 +147,6 @@ TEST(ParameterCheckerTest, TakesANumberWhereATextMayBeOne)
     EXPECT_EQ(check(rows, R"({"port":"8080"})").params.text(Keys::port), QStringLiteral("8080"));
     EXPECT_EQ(check(rows, R"({"port":603123456789})").params.text(Keys::port),
               QStringLiteral("603123456789"));
+    EXPECT_EQ(check(rows, R"({"port":-9007199254740992})").params.text(Keys::port),
+              QStringLiteral("-9007199254740992"));
 }

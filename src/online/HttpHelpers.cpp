@@ -1,6 +1,5 @@
 #include "HttpHelpers.h"
 
-#include "BodyBuffer.h"
 #include "CertificateFile.h"
 
 #include "core/ApplicationInfoManager.h"
@@ -11,7 +10,8 @@ namespace {
 
 constexpr char kJsonHeader[] = "Content-Type:application/json;charset=UTF-8";
 
-HttpResult call(TransferRequest request, int timeoutSeconds, const std::atomic<bool> *stop)
+HttpResult call(TransferRequest request, int timeoutSeconds, const std::atomic<bool> *stop,
+                qint64 longestAnswer)
 {
     request.headers = {kJsonHeader};
     request.timeoutSeconds = timeoutSeconds;
@@ -23,34 +23,37 @@ HttpResult call(TransferRequest request, int timeoutSeconds, const std::atomic<b
     if (stop != nullptr)
         progress = [stop](qint64, qint64) { return !*stop; };
     HttpResult answer;
+    bool isFull = false;
     CurlTransfer curl;
-    TransferResult result = curl.run(request, BodyBuffer::appendTo(answer.bytes), progress);
+    TransferResult result =
+        curl.run(request, BodyBuffer::appendTo(answer.bytes, isFull, longestAnswer), progress);
     if (result.end == TransferResult::End::Done && !BodyBuffer::isSuccess(result.httpStatus))
         result = CurlTransfer::refusal(result.httpStatus);
     answer.httpStatus = result.httpStatus;
     if (result.end == TransferResult::End::Done)
         return answer;
     answer.error = result.code;
-    answer.errorText = result.text;
-    qInfo().noquote() << QStringLiteral("error curl get Code %1 : %2").arg(result.code).arg(result.text);
+    answer.errorText = isFull ? BodyBuffer::tooLong(result.text, longestAnswer) : result.text;
+    qInfo().noquote() << QStringLiteral("error curl get Code %1 : %2").arg(result.code).arg(answer.errorText);
     return answer;
 }
 
 } // namespace
 
 HttpResult PostJson(const QString &url, const QByteArray &body, int timeoutSeconds,
-                    const std::atomic<bool> *stop)
+                    const std::atomic<bool> *stop, qint64 longestAnswer)
 {
     TransferRequest request;
     request.url = url;
     request.method = TransferRequest::Method::PostBody;
     request.body = body;
-    return call(std::move(request), timeoutSeconds, stop);
+    return call(std::move(request), timeoutSeconds, stop, longestAnswer);
 }
 
-HttpResult GetText(const QString &url, int timeoutSeconds, const std::atomic<bool> *stop)
+HttpResult GetText(const QString &url, int timeoutSeconds, const std::atomic<bool> *stop,
+                   qint64 longestAnswer)
 {
     TransferRequest request;
     request.url = url;
-    return call(std::move(request), timeoutSeconds, stop);
+    return call(std::move(request), timeoutSeconds, stop, longestAnswer);
 }

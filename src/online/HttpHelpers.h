@@ -5,15 +5,18 @@
 // told by the result, never thrown.
 #pragma once
 
+#include "BodyBuffer.h"
 #include "HttpResult.h"
 
 #include <atomic>
 
 // body goes out with "Content-Type:application/json;charset=UTF-8". timeoutSeconds: for the whole call, 0
 // means no limit. stop: when not null, a call ends within about a second after another thread has set it.
-// An answer may be 64 MiB long.
+// longestAnswer: bytes; a longer one ends the call, and the log tells the bound.
 [[nodiscard]] HttpResult PostJson(const QString &url, const QByteArray &body, int timeoutSeconds,
-                                  const std::atomic<bool> *stop = nullptr);
+                                  const std::atomic<bool> *stop = nullptr,
+                                  qint64 longestAnswer = BodyBuffer::UsualBytes);
 
 [[nodiscard]] HttpResult GetText(const QString &url, int timeoutSeconds,
-                                 const std::atomic<bool> *stop = nullptr);
+                                 const std::atomic<bool> *stop = nullptr,
+                                 qint64 longestAnswer = BodyBuffer::UsualBytes);

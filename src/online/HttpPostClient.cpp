@@ -36,14 +36,16 @@ bool HttpPostClient::Perform()
         request.certificateFile = CertificateFile::find(m_certificateFolder);
 
     m_responseBody.clear();
-    TransferResult result = m_curl.run(request, BodyBuffer::appendTo(m_responseBody),
+    bool isFull = false;
+    TransferResult result = m_curl.run(request, BodyBuffer::appendTo(m_responseBody, isFull),
                                        [this](qint64, qint64) { return !m_isStopped; });
     m_httpStatus = result.httpStatus;
     if (result.end == TransferResult::End::Done && !BodyBuffer::isSuccess(result.httpStatus))
         result = CurlTransfer::refusal(result.httpStatus);
     if (result.end == TransferResult::End::Done)
         return true;
-    logPrintf("error curl post: %s, http status code: %ld\n", result.text.toLocal8Bit().constData(),
+    const QString text = isFull ? BodyBuffer::tooLong(result.text, BodyBuffer::UsualBytes) : result.text;
+    logPrintf("error curl post: %s, http status code: %ld\n", text.toLocal8Bit().constData(),
               result.httpStatus);
     return false;
 }

@@ -45,7 +45,8 @@ protected:
         if (!m_socket)
             return;
         m_socket->write(bytes);
-        m_socket->waitForBytesWritten(kPatienceMs);
+        while (m_socket->bytesToWrite() > 0 && m_socket->waitForBytesWritten(kPatienceMs)) {
+        }
         m_socket->disconnectFromHost();
     }
 
@@ -68,6 +69,18 @@ TEST_F(HttpTransportCase, PostsTheBodyWithItsHeaderAndGivesTheAnswer)
         << asked.constData();
     EXPECT_TRUE(m_reply.isDelivered);
     EXPECT_EQ(m_reply.body, "{\"ret\":0}");
+}
+
+TEST_F(HttpTransportCase, TheSongsOfAVeryLargeLibraryAreOneAnswer)
+{
+    post("{}");
+    (void)request("{}");
+    const QByteArray songs(100 * 1024 * 1024, 'x');
+    answer("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(songs.size())
+           + "\r\nConnection: close\r\n\r\n" + songs);
+    m_client.join();
+    EXPECT_TRUE(m_reply.isDelivered);
+    EXPECT_EQ(m_reply.body.size(), songs.size());
 }
 
 TEST_F(HttpTransportCase, ARefusalIsNotDelivered)

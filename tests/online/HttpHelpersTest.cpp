@@ -170,6 +170,23 @@ TEST(HttpHelpersTest, AnAnswerWithoutEndIsCutOff)
     const HttpResult result = GetText(server.url("/"), kSeconds);
     EXPECT_EQ(result.error, 23);
     EXPECT_LE(result.bytes.size(), 64 * 1024 * 1024);
+    ASSERT_EQ(TestLog::infoLines().size(), 1);
+    EXPECT_TRUE(TestLog::infoLines().constFirst().startsWith("error curl get Code 23 : "));
+    EXPECT_TRUE(TestLog::infoLines().constFirst().contains("longer than 67108864 bytes"));
+}
+
+TEST(HttpHelpersTest, ACallChoosesHowLongItsAnswerMayBe)
+{
+    const QByteArray body(100000, 'x');
+    const StandInServer server([&](const StandInRequest &) { return httpReply("200 OK", body); });
+    for (const qint64 bound : {qint64(body.size()), qint64(body.size()) - 1}) {
+        const bool fits = bound == body.size();
+        EXPECT_EQ(PostJson(server.url("/"), "{}", kSeconds, nullptr, bound).isOk(), fits);
+        const HttpResult result = GetText(server.url("/"), kSeconds, nullptr, bound);
+        EXPECT_EQ(result.isOk(), fits);
+        EXPECT_LE(result.bytes.size(), bound);
+        EXPECT_EQ(result.errorText.contains("longer than 99999 bytes"), !fits);
+    }
 }
 
 TEST(HttpHelpersTest, ManyThreadsCallAtOnce)

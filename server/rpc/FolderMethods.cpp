@@ -122,7 +122,7 @@ RpcReply FolderMethods::addPath(Library library, const Params &params)
     const QVector<RootFolder> folders = m_roots.folders(libraryId);
     for (const RootFolder &folder : folders) {
         if (comparable(folder.path) == comparable(path))
-            return RpcReply::good(QJsonObject{{Keys::PathId, folder.pathId}});
+            return addAgain(folder, params.text(Keys::scraperType));
     }
     const int id = m_roots.addFolder(libraryId, path, params.text(Keys::scraperType));
     if (id < 0)
@@ -130,6 +130,17 @@ RpcReply FolderMethods::addPath(Library library, const Params &params)
     qInfo() << "[library] folder added:" << path;
     m_tasks.foldersChanged();
     return RpcReply::good(QJsonObject{{Keys::PathId, id}});
+}
+
+RpcReply FolderMethods::addAgain(const RootFolder &folder, const QString &scraperType)
+{
+    if (!scraperType.isEmpty() && scraperType != folder.scraperType) {
+        if (m_roots.addFolder(folder.libraryId, folder.path, scraperType) != folder.pathId)
+            return RpcReply::failed(QStringLiteral("the folder could not be changed: %1").arg(folder.path));
+        qInfo() << "[library] folder is read as" << scraperType << "from now on:" << folder.path;
+        m_tasks.rescan(folder.pathId);
+    }
+    return RpcReply::good(QJsonObject{{Keys::PathId, folder.pathId}});
 }
 
 RpcReply FolderMethods::deletePath(Library library, const Params &params)

@@ -6,6 +6,7 @@
 
 class ILibraryRoots;
 class IServerTasks;
+struct RootFolder;
 
 class FolderMethods final {
 public:
@@ -20,6 +21,8 @@ private:
     [[nodiscard]] RpcReply detail(Library library, const Params &params) const;
     [[nodiscard]] RpcReply addPath(Library library, const Params &params);
     [[nodiscard]] RpcReply deletePath(Library library, const Params &params);
+    // Of a folder that the library holds already; an empty scraper type leaves it as it is.
+    [[nodiscard]] RpcReply addAgain(const RootFolder &folder, const QString &scraperType);
     // Why the folder cannot join the library; empty where it can.
     [[nodiscard]] QString objectionTo(const QString &path, int libraryId) const;
 

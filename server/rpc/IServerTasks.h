@@ -15,6 +15,8 @@ public:
     virtual void updateLanguage(const QString &language) = 0;
     // A folder was added to a library or taken from it.
     virtual void foldersChanged() = 0;
+    // One folder of a library is to be scanned, as an update would.
+    virtual void rescan(int pathId) = 0;
 
     // No scan runs and none waits.
     [[nodiscard]] virtual bool isScanFinished() const = 0;

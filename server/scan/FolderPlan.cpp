@@ -48,10 +48,11 @@ void add(QCryptographicHash &hash, const FolderEntry &entry)
 
 } // namespace
 
-QByteArray FolderPlan::fingerprint(const WalkedFolder &folder)
+QByteArray FolderPlan::fingerprint(const WalkedFolder &folder, const QByteArray &kind)
 {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(Version, int(sizeof Version));
+    hash.addData(kind);
     if (folder.parent)
         hash.addData(folder.parent->sidecars);
     for (const FolderEntry &entry : folder.entries)
@@ -81,13 +82,14 @@ bool FolderPlan::take(const WalkedFolder &folder, QByteArray &fingerprint)
         m_unreadable << folder.path + QLatin1Char('/');
         return false;
     }
-    fingerprint = FolderPlan::fingerprint(folder);
+    fingerprint = FolderPlan::fingerprint(folder, m_kind);
     return m_known.value(folder.path) != fingerprint;
 }
 
 bool FolderPlan::looksUnmounted(const WalkedFolder &root) const
 {
-    return root.entries.isEmpty() && !m_known.isEmpty() && m_known.value(root.path) != fingerprint(root);
+    return root.entries.isEmpty() && !m_known.isEmpty()
+           && m_known.value(root.path) != fingerprint(root, m_kind);
 }
 
 QStringList FolderPlan::gone() const

@@ -11,13 +11,16 @@
 
 class FolderPlan final {
 public:
-    explicit FolderPlan(const QHash<QString, QByteArray> &known)
+    // kind: of what reads the folders. It is part of the fingerprints, so that a scan that still ran while
+    // the kind of a folder changed leaves none that the next one takes for its own.
+    explicit FolderPlan(const QHash<QString, QByteArray> &known, const QByteArray &kind = {})
         : m_known(known)
+        , m_kind(kind)
     {
     }
 
     // Names, sizes and times of all that is listed, and the sidecars above.
-    [[nodiscard]] static QByteArray fingerprint(const WalkedFolder &folder);
+    [[nodiscard]] static QByteArray fingerprint(const WalkedFolder &folder, const QByteArray &kind = {});
     // Of the sidecars in the folder that tell about what lies below it, and of those above.
     [[nodiscard]] static QByteArray sidecarDigest(const WalkedFolder &folder);
 
@@ -31,6 +34,7 @@ public:
 
 private:
     QHash<QString, QByteArray> m_known;
+    const QByteArray m_kind;
     QSet<QString> m_seen;
     QStringList m_unreadable;
 };

@@ -30,6 +30,8 @@ class IFolderReader {
 public:
     virtual ~IFolderReader() = default;
 
+    // Empty for the usual one: folders that were read by a reader of another kind are read again.
+    [[nodiscard]] virtual QByteArray kind() const { return {}; }
     // Names and sidecars only: no media file is opened.
     virtual void prepare(FolderWork &work, const StoredFolder &stored) const = 0;
     // Puts what the files said where prepare() left it open.

@@ -19,7 +19,7 @@ RootScan::RootScan(const RootFolder &root, bool isMusic, IScanStore &store, cons
     , m_reader(reader)
     , m_pool(pool)
     , m_cancelled(cancelled)
-    , m_plan(store.fingerprints(root.pathId))
+    , m_plan(store.fingerprints(root.pathId), reader.kind())
     , m_batch(store)
 {
 }

@@ -47,11 +47,13 @@ void Scanner::cancelRunning()
 void Scanner::enqueue(const QVector<Target> &targets)
 {
     for (const Target &target : targets) {
-        const bool waits = std::any_of(m_queue.begin(), m_queue.end(), [&](const Job &job) {
+        const auto waiting = std::find_if(m_queue.begin(), m_queue.end(), [&](const Job &job) {
             return !job.isClear && job.target.root.pathId == target.root.pathId;
         });
-        if (!waits)
+        if (waiting == m_queue.end())
             m_queue.push_back({false, target});
+        else
+            waiting->target = target;
     }
 }
 

@@ -38,8 +38,8 @@ public:
     // Cancels and waits.
     ~Scanner() override;
 
-    // One that waits already is not queued twice; one that is being scanned is scanned again when that has
-    // ended.
+    // One that waits already is not queued twice and is read as it is now; one that is being scanned is
+    // scanned again when that has ended.
     void scan(const QVector<Target> &targets);
     // Cancels everything, empties what scans can find again, and scans these.
     void rebuild(const QVector<Target> &targets);

@@ -44,6 +44,7 @@ public:
     void rebuild() override;
     void updateLanguage(const QString &language) override;
     void foldersChanged() override;
+    void rescan(int pathId) override;
     [[nodiscard]] bool isScanFinished() const override;
     [[nodiscard]] bool takeScraperFinished() override;
 
@@ -54,7 +55,6 @@ signals:
 private:
     [[nodiscard]] QVector<Scanner::Target> targets(int libraryId) const;
     [[nodiscard]] QVector<Scanner::Target> allTargets() const;
-    void rescan(int pathId);
     void requestRound();
     void runRounds();
     void watchRoots();

@@ -20,6 +20,10 @@ public:
     VideoFolder(const VideoFolder &) = delete;
     VideoFolder &operator=(const VideoFolder &) = delete;
 
+    [[nodiscard]] QByteArray kind() const override
+    {
+        return m_adult ? QByteArrayLiteral("adult") : QByteArray();
+    }
     void prepare(FolderWork &work, const StoredFolder &stored) const override;
     void finish(FolderWork &work) const override;
 

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr char Common[] = "common";
+constexpr char Adult[] = "avScraper";
 constexpr int FetchSeconds = 10;
 
 QStringList sorted(QStringList list)
@@ -175,6 +176,25 @@ TEST_F(UserChangesTest, AMatchChosenByTheUserOutlivesScansAndARebuild)
     EXPECT_EQ(idOf(VideoCache::Movies, "Chosen"), id);
     EXPECT_EQ(m_manager->videos().count(VideoCache::Movies), 8);
     EXPECT_EQ(m_manager->music().likedSongs(), QStringList(song));
+}
+
+TEST_F(UserChangesTest, AFolderThatIsAddedAgainWithAnotherScraperIsReadAsThatAsksFor)
+{
+    const QStringList films = titles(VideoCache::Movies);
+    const LibraryPaths::Map folders = m_manager->videoPaths();
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(m_manager->addVideoPath(m_tree.films(), Adult));
+        waitForScanEnd();
+        loadAll();
+        EXPECT_EQ(titles(VideoCache::Movies), QStringList());
+        EXPECT_TRUE(titles(VideoCache::AdultItems).contains("Beta"));
+        EXPECT_EQ(m_manager->videoPaths(), folders);
+        ASSERT_TRUE(m_manager->addVideoPath(m_tree.films(), Common));
+        waitForScanEnd();
+        loadAll();
+        EXPECT_EQ(titles(VideoCache::Movies), films);
+        EXPECT_EQ(titles(VideoCache::AdultItems), QStringList());
+    }
 }
 
 TEST_F(UserChangesTest, PicturesComeOverHttpFromTheCacheAndTheLibraryOnly)

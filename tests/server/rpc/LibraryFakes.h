@@ -39,6 +39,12 @@ struct FakeRoots final : ILibraryRoots {
     {
         if (refuses)
             return -1;
+        for (RootFolder &folder : stored) {
+            if (folder.libraryId == libraryId && folder.path == path) {
+                folder.scraperType = scraperType;
+                return folder.pathId;
+            }
+        }
         stored.append({int(stored.size()) + 10, libraryId, path, scraperType, true});
         return stored.last().pathId;
     }
@@ -261,6 +267,7 @@ struct FakeTasks final : IServerTasks {
         calls.append(QStringLiteral("language ") + language);
     }
     void foldersChanged() override { calls.append(QStringLiteral("folders")); }
+    void rescan(int pathId) override { calls.append(QStringLiteral("rescan %1").arg(pathId)); }
     bool isScanFinished() const override { return finished; }
     bool takeScraperFinished() override { return std::exchange(scraperFinished, false); }
 };

@@ -81,6 +81,21 @@ TEST_F(LibraryMethodsTest, AFolderJoinsALibraryOnceAndNeverInsideAnother)
     EXPECT_EQ(m_roots.stored.size(), 1);
     EXPECT_EQ(m_tasks.calls, QStringList{QStringLiteral("folders")});
 
+    // Another scraper type changes the folder and has it scanned; no type at all says nothing.
+    const QByteArray common = QByteArray(add(m_folder.filePath("link"))).replace("avScraper", "common");
+    EXPECT_EQ(result("VLibrary.AddPath", common).value("PathId").toInt(), id);
+    EXPECT_EQ(m_roots.stored.first().scraperType, QStringLiteral("common"));
+    EXPECT_EQ(result("VLibrary.AddPath", common).value("PathId").toInt(), id);
+    EXPECT_EQ(result("VLibrary.AddPath", QByteArray(common).replace("common", "")).value("PathId").toInt(),
+              id);
+    EXPECT_EQ(m_roots.stored.first().scraperType, QStringLiteral("common"));
+    EXPECT_EQ(m_roots.stored.size(), 1);
+    EXPECT_EQ(m_tasks.calls, (QStringList{QStringLiteral("folders"), QStringLiteral("rescan %1").arg(id)}));
+    m_roots.refuses = true;
+    EXPECT_NE(refusal("VLibrary.AddPath", add(m_folder.filePath("a"))).find("could not be changed"),
+              std::string::npos);
+    m_roots.refuses = false;
+
     struct Row {
         QString path;
         const char *message;

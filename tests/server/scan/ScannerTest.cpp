@@ -282,6 +282,26 @@ TEST(ScannerPoolTest, QueuesAFolderOnce)
     EXPECT_EQ(bench.store.finishedScans(), 2);
 }
 
+TEST(ScannerPoolTest, AFolderThatChangesItsKindDuringItsScanIsReadAnewByThatKind)
+{
+    ProbePool::Limits limits;
+    limits.workers = 1;
+    ScanBench bench(limits);
+    SampleClips::write(bench.path("A/stuck.mkv"), "film");
+    QVector<Scanner::Target> targets{{bench.store.root(bench.videoRoot), false}};
+    bench.scanner->scan(targets);
+    ASSERT_EVENTUALLY(bench.reader->held() == 1);
+    // An update waits when the kind changes, and it is the last that is asked for.
+    bench.scanner->scan(targets);
+    targets.first().root.scraperType = "avScraper";
+    bench.scanner->scan(targets);
+    bench.reader->release();
+    ASSERT_TRUE(bench.waitForEnd());
+    EXPECT_EQ(bench.store.finishedScans(), 2);
+    ASSERT_EQ(bench.store.videos().size(), 1);
+    EXPECT_EQ(bench.store.videos().first().kind, ScannedVideo::Kind::Adult);
+}
+
 TEST(ScannerPoolTest, DropsAFolderThatLeftTheLibrary)
 {
     ProbePool::Limits limits;

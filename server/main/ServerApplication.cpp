@@ -7,21 +7,13 @@
 #include <QDebug>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
-constexpr int notFound = 404;
 constexpr int ok = 200;
-
-HttpReply imageReply(const ImageFiles &images, const QByteArray &key)
-{
-    ImageFile image = images.open(key);
-    HttpReply reply;
-    reply.status = image.file.isOpen() ? ok : notFound;
-    reply.contentType = image.contentType;
-    reply.file = std::move(image.file);
-    return reply;
-}
+constexpr int notFound = 404;
+constexpr int unavailable = 503;
 
 } // namespace
 
@@ -44,8 +36,9 @@ ServerApplication::~ServerApplication()
 ServerApplication::Exit ServerApplication::start()
 {
     using Step = Exit (ServerApplication::*)();
-    for (const Step step :
-         {&ServerApplication::takeFolder, &ServerApplication::openParts, &ServerApplication::listen}) {
+    m_gate.reset();
+    for (const Step step : {&ServerApplication::takeFolder, &ServerApplication::listen,
+                            &ServerApplication::openParts, &ServerApplication::takeRequests}) {
         const Exit status = (this->*step)();
         if (status != Ended) {
             stop();
@@ -53,6 +46,7 @@ ServerApplication::Exit ServerApplication::start()
         }
     }
     m_parts->start();
+    m_isUp = true;
     return Ended;
 }
 
@@ -89,12 +83,9 @@ ServerApplication::Exit ServerApplication::openParts()
 
 ServerApplication::Exit ServerApplication::listen()
 {
-    m_dispatcher = std::make_unique<RpcDispatcher>(RpcDispatcher::Parts{
-        m_parts->roots(), m_parts->videos(), m_parts->music(), m_parts->tasks(), m_parts->metadata()});
-    m_images = std::make_unique<ImageFiles>(m_folder.imageFolder(), m_parts->roots(), m_parts->artwork());
     m_http = std::make_unique<HttpServer>(
-        HttpServer::Handlers{[this](const QByteArray &body) { return m_dispatcher->handle(body); },
-                             [this](const QByteArray &key) { return imageReply(*m_images, key); }},
+        HttpServer::Handlers{[this](const QByteArray &body) { return answer(body); },
+                             [this](const QByteArray &key) { return picture(key); }},
         m_settings.http);
     switch (m_http->start()) {
     case HttpServer::Start::Started:
@@ -108,9 +99,42 @@ ServerApplication::Exit ServerApplication::listen()
     return failed(PortTaken, QStringLiteral("port %1 cannot be listened on").arg(m_settings.http.port));
 }
 
+ServerApplication::Exit ServerApplication::takeRequests()
+{
+    m_dispatcher = std::make_unique<RpcDispatcher>(RpcDispatcher::Parts{
+        m_parts->roots(), m_parts->videos(), m_parts->music(), m_parts->tasks(), m_parts->metadata()});
+    m_images = std::make_unique<ImageFiles>(m_folder.imageFolder(), m_parts->roots(), m_parts->artwork());
+    m_gate.open();
+    qInfo() << "[server] takes requests";
+    return Ended;
+}
+
+QByteArray ServerApplication::answer(const QByteArray &body)
+{
+    if (m_gate.wait(m_settings.startWait))
+        return m_dispatcher->handle(body);
+    return RpcDispatcher::refused(body, QStringLiteral("the server is starting or ending"));
+}
+
+HttpReply ServerApplication::picture(const QByteArray &key)
+{
+    HttpReply reply;
+    if (!m_gate.wait(std::chrono::milliseconds::zero())) {
+        reply.status = unavailable;
+        return reply;
+    }
+    ImageFile image = m_images->open(key);
+    reply.status = image.file.isOpen() ? ok : notFound;
+    reply.contentType = image.contentType;
+    reply.file = std::move(image.file);
+    return reply;
+}
+
 void ServerApplication::stop()
 {
-    const bool wasUp = m_http && m_http->port() != 0;
+    const bool wasUp = std::exchange(m_isUp, false);
+    if (!wasUp)
+        m_gate.close(); // a start that failed: who waits for its end has nothing to wait for
     if (m_http)
         m_http->stop();
     if (m_parts && wasUp)

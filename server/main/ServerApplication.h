@@ -1,11 +1,12 @@
 // The life of the program: everything made in order, run until it is told to end, and taken down in the
 // reverse order.
 //
-// Owns the log, the lock on the data folder, the parts, the protocol and the HTTP front. Lives on the main
+// Owns the log, the lock on the data folder, the HTTP front, the parts and the protocol. Lives on the main
 // thread.
 #pragma once
 
 #include "IServerParts.h"
+#include "StartGate.h"
 #include "base/DataFolder.h"
 #include "base/ServerConfiguration.h"
 #include "http/HttpServer.h"
@@ -13,6 +14,7 @@
 #include <QLockFile>
 #include <QObject>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -40,13 +42,17 @@ public:
     struct Settings {
         QString dataFolder;
         HttpServer::Settings http;
+        // So long a request of the protocol waits for the end of the start; then it is told that the server
+        // starts. Shorter than a player waits for an answer, which is 15 seconds.
+        std::chrono::milliseconds startWait{10000};
     };
 
     ServerApplication(const Settings &settings, PartsFactory makeParts, QObject *parent = nullptr);
     ~ServerApplication() override; // stops
 
     // Brings everything up; Ended when the server answers, else the status to leave with, already told in the
-    // log and on the standard error.
+    // log and on the standard error. The port is listened on first: opening the database may take minutes
+    // where it is looked through, changed or replaced by its copy.
     [[nodiscard]] Exit start();
     // Takes everything down again; harmless when nothing is up.
     void stop();
@@ -57,6 +63,9 @@ private:
     [[nodiscard]] Exit takeFolder();
     [[nodiscard]] Exit openParts();
     [[nodiscard]] Exit listen();
+    [[nodiscard]] Exit takeRequests();
+    [[nodiscard]] QByteArray answer(const QByteArray &body);
+    [[nodiscard]] HttpReply picture(const QByteArray &key);
 
     Settings m_settings;
     PartsFactory m_makeParts;
@@ -66,5 +75,7 @@ private:
     std::unique_ptr<IServerParts> m_parts;
     std::unique_ptr<RpcDispatcher> m_dispatcher;
     std::unique_ptr<ImageFiles> m_images;
+    StartGate m_gate;
     std::unique_ptr<HttpServer> m_http;
+    bool m_isUp{false};
 };

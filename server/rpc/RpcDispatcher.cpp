@@ -76,6 +76,13 @@ RpcDispatcher::RpcDispatcher(const Parts &parts)
     m_musicRemovals.addTo(m_table);
 }
 
+QByteArray RpcDispatcher::refused(const QByteArray &body, const QString &why)
+{
+    const ParsedRequest parsed = RequestParser::parse(body);
+    qInfo() << "[rpc] refused:" << parsed.request.method << why;
+    return written(parsed.request.id, RpcReply::failed(why));
+}
+
 QByteArray RpcDispatcher::handle(const QByteArray &body) const
 {
     QElapsedTimer timer;

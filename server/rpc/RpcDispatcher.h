@@ -31,6 +31,8 @@ public:
     RpcDispatcher &operator=(const RpcDispatcher &) = delete;
 
     [[nodiscard]] QByteArray handle(const QByteArray &body) const;
+    // The reply to a request that is not carried out at all.
+    [[nodiscard]] static QByteArray refused(const QByteArray &body, const QString &why);
     [[nodiscard]] const MethodTable &table() const { return m_table; }
 
 private:

@@ -58,7 +58,8 @@ JsonRpcReply JsonRpc::call(const char *method, const QJsonObject &params, int ti
     }
     const QJsonObject answer = document.object();
     // A text, too, would turn into the number 0.
-    if (answer.value(QLatin1String(Rpc::Key::ret)).toInt(kNoNumber) != 0)
-        return {};
-    return {true, answer.value(QLatin1String(Rpc::Key::result))};
+    const QJsonValue ret = answer.value(QLatin1String(Rpc::Key::ret));
+    if (ret.toInt(kNoNumber) != 0)
+        return {false, ret.isDouble(), QJsonValue::Undefined};
+    return {true, false, answer.value(QLatin1String(Rpc::Key::result))};
 }

@@ -11,6 +11,8 @@ class LibraryTransport;
 struct JsonRpcReply {
     // Delivered, an object, and its "ret" the number 0. Everything else is "no data".
     bool isGood{false};
+    // Delivered, an object, and its "ret" another number: somebody is there, but will or can not.
+    bool isRefused{false};
     QJsonValue result{QJsonValue::Undefined};
 
     // An empty object where the answer was bad or holds no object.

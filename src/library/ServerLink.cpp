@@ -50,27 +50,31 @@ void ServerLink::startUp()
 std::optional<bool> ServerLink::startServer()
 {
     const bool isStarted = m_starter.start(m_program, m_dataFolder, kStartMs);
-    askForLibraries();
+    (void)askForLibraries();
     const auto isUnknown = [this] { return m_parts.roots.id(LibraryRoots::Video) == LibraryRoots::Unknown; };
-    if (isStarted && isUnknown()) {
-        // A program that has just been started may not listen yet.
+    // A program that has just been started may not listen yet. One that listens may have its database to look
+    // through or to put right; another one could not take its place.
+    bool asksAgain = isStarted;
+    while (asksAgain && isUnknown()) {
         if (!m_parts.pause.wait(kSecondTryMs))
             return std::nullopt;
-        askForLibraries();
+        asksAgain = askForLibraries() && m_starter.isRunning();
     }
     if (!isUnknown() || m_parts.pause.isEnding())
         return std::nullopt;
     const bool isPlainStarted = m_starter.startPlain(m_program);
-    askForLibraries();
+    (void)askForLibraries();
     return isPlainStarted;
 }
 
-void ServerLink::askForLibraries()
+bool ServerLink::askForLibraries()
 {
-    if (const auto id = m_parts.video.libraryId())
-        m_parts.roots.setId(LibraryRoots::Video, *id);
+    const VideoProtocol::Library video = m_parts.video.library();
+    if (video.id)
+        m_parts.roots.setId(LibraryRoots::Video, *video.id);
     if (const auto id = m_parts.music.libraryId())
         m_parts.roots.setId(LibraryRoots::Music, *id);
+    return video.isServerThere;
 }
 
 void ServerLink::askForFolders()

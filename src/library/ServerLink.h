@@ -38,8 +38,8 @@ public:
     ServerLink(const Parts &parts, IServerStarter &starter, QString program, QString dataFolder,
                std::function<void()> startHeartbeat);
 
-    // Starts the server and asks for libraries and folders; comes to its end even where nothing answers.
-    // Blocks.
+    // Starts the server and asks for libraries and folders; comes to its end even where nothing answers. A
+    // server that says that it is still starting is asked for as long as its process runs. Blocks.
     void startUp();
     // Beats until the pause ends. Blocks.
     void beat();
@@ -56,7 +56,8 @@ public:
 private:
     // The outcome of the second way of starting, where it was gone.
     std::optional<bool> startServer();
-    void askForLibraries();
+    // Whether the server answered, if only that it has no answer yet.
+    [[nodiscard]] bool askForLibraries();
     void askForFolders();
     void setReady();
 

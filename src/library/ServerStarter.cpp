@@ -38,14 +38,26 @@ bool ServerStarter::start(const QString &program, const QString &dataFolder, int
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setStandardOutputFile(QProcess::nullDevice());
     m_process->setStandardErrorFile(QProcess::nullDevice());
+    const auto isRunning = std::make_shared<std::atomic<bool>>(true);
+    m_isRunning = isRunning;
+    QObject::connect(m_process.get(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+                     m_process.get(), [isRunning] { *isRunning = false; });
     m_process->start(program, {dataFolder}, QIODevice::ReadWrite);
     const bool isStarted = m_process->waitForStarted(waitMs);
-    if (!isStarted)
+    if (!isStarted) {
+        *isRunning = false;
         qInfo().noquote() << "[Media server] not started:" << m_process->errorString();
+    }
     // The thread that starts it ends soon: the process is to notice its end in one that lives on.
     if (QCoreApplication::instance())
         m_process->moveToThread(QCoreApplication::instance()->thread());
     return isStarted;
+}
+
+bool ServerStarter::isRunning() const
+{
+    std::lock_guard lock(m_mutex);
+    return *m_isRunning;
 }
 
 bool ServerStarter::startPlain(const QString &program)
@@ -58,6 +70,7 @@ void ServerStarter::release()
     std::lock_guard lock(m_mutex);
     if (!m_process)
         return;
+    *m_isRunning = false;
     if (m_process->thread() != QThread::currentThread()) {
         m_process->kill();
         // Its notifiers may be taken down in its own thread only.

@@ -4,6 +4,7 @@
 
 #include "IServerStarter.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -17,6 +18,7 @@ public:
     [[nodiscard]] bool isHeld() const override;
     // Without the file nothing is tried.
     [[nodiscard]] bool start(const QString &program, const QString &dataFolder, int waitMs) override;
+    [[nodiscard]] bool isRunning() const override;
     [[nodiscard]] bool startPlain(const QString &program) override;
     void release() override;
 
@@ -26,4 +28,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::unique_ptr<QProcess> m_process;
+    // Of the process that was started last. Set in the thread that notices its end; the process may outlive
+    // this.
+    std::shared_ptr<std::atomic<bool>> m_isRunning{std::make_shared<std::atomic<bool>>(false)};
 };

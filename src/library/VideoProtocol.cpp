@@ -73,10 +73,10 @@ QJsonObject fixParams(const VideoProtocol::Fix &fix)
 
 // ---- the server
 
-std::optional<int> VideoProtocol::libraryId() const
+VideoProtocol::Library VideoProtocol::library() const
 {
-    return LibraryPaths::firstLibrary(
-        m_rpc.call(Method::ServerGetLibraries, {{Key::type, Text::all}}, Limit::Usual));
+    const JsonRpcReply reply = m_rpc.call(Method::ServerGetLibraries, {{Key::type, Text::all}}, Limit::Usual);
+    return {LibraryPaths::firstLibrary(reply), reply.isGood || reply.isRefused};
 }
 
 std::optional<LibraryPaths::Map> VideoProtocol::folders(int libraryId) const

@@ -27,6 +27,10 @@ public:
         bool isScanFinished{false};
         bool isScraperFinished{false};
     };
+    struct Library {
+        std::optional<int> id;
+        bool isServerThere{false}; // it answered, if only that it has no answer yet
+    };
     struct Proxy {
         QString host;
         QString port;
@@ -40,7 +44,8 @@ public:
     };
 
     // ---- the server
-    [[nodiscard]] std::optional<int> libraryId() const;
+    [[nodiscard]] Library library() const;
+    [[nodiscard]] std::optional<int> libraryId() const { return library().id; }
     [[nodiscard]] std::optional<LibraryPaths::Map> folders(int libraryId) const;
     [[nodiscard]] Pulse heartbeat() const;
     void setProxy(const Proxy &proxy) const;

@@ -46,6 +46,12 @@ bool FakeStarter::start(const QString &program, const QString &dataFolder, int w
     return m_script.startsProcess;
 }
 
+bool FakeStarter::isRunning() const
+{
+    std::lock_guard lock(m_script.mutex);
+    return m_script.isRunning;
+}
+
 bool FakeStarter::startPlain(const QString &program)
 {
     note(QStringLiteral("plain %1").arg(program));
@@ -79,6 +85,13 @@ bool FakePause::wait(int ms)
 {
     std::unique_lock lock(m_script.mutex);
     m_script.waits.append(ms);
+    if (m_script.onWait) {
+        const auto onWait = m_script.onWait;
+        const int count = m_script.waits.size();
+        lock.unlock();
+        onWait(count);
+        lock.lock();
+    }
     if (ms != PauseScript::BeatMs)
         return !m_script.isEnding;
     m_script.changed.wait(lock, [this] { return m_script.isEnding || m_script.ticks > 0; });

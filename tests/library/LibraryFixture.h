@@ -26,7 +26,8 @@ struct StarterScript {
     bool startsProcess{true};
     bool startsPlain{false};
     bool isHeld{false};
-    QStringList calls; // "start <program> <folder> <ms>", "plain <program>", "release"
+    bool isRunning{true}; // once it is started
+    QStringList calls;    // "start <program> <folder> <ms>", "plain <program>", "release"
     std::function<void(const QString &call)> onCall;
 
     void open();
@@ -41,6 +42,7 @@ public:
     }
     bool isHeld() const override;
     bool start(const QString &program, const QString &dataFolder, int waitMs) override;
+    bool isRunning() const override;
     bool startPlain(const QString &program) override;
     void release() override;
 
@@ -54,7 +56,8 @@ struct PauseScript {
     static constexpr int BeatMs = 3000;
     std::mutex mutex;
     std::condition_variable changed;
-    QList<int> waits; // ms
+    QList<int> waits;                      // ms
+    std::function<void(int count)> onWait; // with how many there were, this one included
     int ticks{0};
     bool isEnding{false};
 

@@ -27,6 +27,7 @@ protected:
     }
 };
 
+constexpr char kStarting[] = R"({"ret":1,"message":"the server is starting or ending"})";
 constexpr char kStart[] = "start /program/server /data/mediaServer 30000";
 
 TEST_F(ServerLinkCase, StartAsksForLibrariesFoldersAndCancelsTheProxy)
@@ -74,6 +75,45 @@ TEST_F(ServerLinkCase, SecondWayOfStartingIsTriedWhenNothingAnswers)
     EXPECT_EQ(m_server.count("Server.GetLibraries"), 3);
     EXPECT_EQ(m_manager->videoPaths(), (LibraryPaths::Map{{1, "/films"}}));
     EXPECT_TRUE(TestLog::infoLines().contains("[MS Path] use normal path: 1"));
+}
+
+TEST_F(ServerLinkCase, ServerThatSaysThatItStartsIsAskedUntilItIsThrough)
+{
+    m_server.answerRaw("Server.GetLibraries", kStarting);
+    m_pause.onWait = [this](int count) {
+        if (count == 5)
+            answerStart();
+    };
+    makeAndWait();
+    EXPECT_EQ(m_server.count("Server.GetLibraries"), 6);
+    EXPECT_EQ(m_pause.recorded().mid(0, 5), (QList<int>{2000, 2000, 2000, 2000, 2000}));
+    EXPECT_EQ(m_starter.recorded(), QStringList{kStart}) << "another one could not have its folder";
+    EXPECT_EQ(m_manager->videoPaths(), (LibraryPaths::Map{{1, "/films"}}));
+    EXPECT_EQ(m_manager->musicPaths(), (LibraryPaths::Map{{2, "/songs"}}));
+    EXPECT_TRUE(m_manager->isScanFinished());
+}
+
+TEST_F(ServerLinkCase, ServerThatEndsWhileItStartsIsStartedTheSecondWay)
+{
+    m_server.answerRaw("Server.GetLibraries", kStarting);
+    m_pause.onWait = [this](int count) {
+        std::lock_guard lock(m_starter.mutex);
+        m_starter.isRunning = count < 3;
+    };
+    makeAndWait();
+    EXPECT_EQ(m_starter.recorded(), (QStringList{kStart, "plain /program/server"}));
+    EXPECT_EQ(m_server.count("Server.GetLibraries"), 5);
+}
+
+TEST_F(ServerLinkCase, EndOfTheProgramEndsTheWaitForAServerThatStarts)
+{
+    m_server.answerRaw("Server.GetLibraries", kStarting);
+    makeManager();
+    ASSERT_EVENTUALLY(m_server.count("Server.GetLibraries") > 3);
+    EXPECT_FALSE(m_manager->isServerReady());
+    m_manager.reset();
+    EXPECT_EQ(m_starter.recorded().mid(0, 1), QStringList{kStart});
+    EXPECT_FALSE(m_starter.recorded().contains("plain /program/server"));
 }
 
 TEST_F(ServerLinkCase, MissingServerFileStillEndsTheStartWithEmptyLists)

@@ -21,6 +21,7 @@ class NoStarter final : public IServerStarter {
 public:
     bool isHeld() const override { return false; }
     bool start(const QString &, const QString &, int) override { return true; }
+    bool isRunning() const override { return false; }
     bool startPlain(const QString &) override { return false; }
     void release() override {}
 };

@@ -12,8 +12,13 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace {
+
+constexpr char Heartbeat[] = R"({"id":"7","method":"Server.Heartbeat","params":{}})";
 
 struct FakeParts final : IServerParts {
     explicit FakeParts(QStringList &steps)
@@ -25,6 +30,8 @@ struct FakeParts final : IServerParts {
     {
         error = QStringLiteral("broken");
         log.append(QStringLiteral("open"));
+        if (onOpen)
+            onOpen();
         return opens;
     }
     void start() override { log.append(QStringLiteral("start")); }
@@ -38,6 +45,7 @@ struct FakeParts final : IServerParts {
 
     QStringList &log;
     bool opens{true};
+    std::function<void()> onOpen;
     FakeRoots fakeRoots;
     FakeVideos fakeVideos;
     FakeMusic fakeMusic;
@@ -53,6 +61,7 @@ protected:
         return [this](const DataFolder &, const ServerConfiguration &) {
             auto parts = std::make_unique<FakeParts>(m_steps);
             parts->opens = m_opens;
+            parts->onOpen = m_onOpen;
             return parts;
         };
     }
@@ -67,6 +76,7 @@ protected:
     QTemporaryDir m_folder;
     QStringList m_steps;
     bool m_opens{true};
+    std::function<void()> m_onOpen; // in the middle of the start
 };
 
 } // namespace
@@ -115,7 +125,7 @@ TEST_F(ServerApplicationTest, APortThatIsTakenEndsTheStartWithItsOwnStatus)
     ServerApplication second(same, factory());
     EXPECT_EQ(second.start(), ServerApplication::PortTaken);
     EXPECT_EQ(int(ServerApplication::PortTaken), 3);
-    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,destroyed"));
+    EXPECT_EQ(m_steps.join(','), QString()) << "a server without a port has nothing to do with the database";
 }
 
 TEST_F(ServerApplicationTest, WhatCannotWorkEndsTheStart)
@@ -127,6 +137,60 @@ TEST_F(ServerApplicationTest, WhatCannotWorkEndsTheStart)
     m_opens = false;
     ServerApplication broken(settings(m_folder.filePath(QStringLiteral("data"))), factory());
     EXPECT_EQ(broken.start(), ServerApplication::NoDatabase);
+}
+
+TEST_F(ServerApplicationTest, ARequestThatComesDuringTheStartIsAnsweredAtItsEnd)
+{
+    ServerApplication server(settings(m_folder.path()), factory());
+    std::unique_ptr<RawClient> early;
+    m_onOpen = [&] {
+        early = std::make_unique<RawClient>(server.port());
+        EXPECT_TRUE(early->send(Http::post(Heartbeat)));
+    };
+    ASSERT_EQ(server.start(), ServerApplication::Ended);
+    ASSERT_TRUE(early);
+    EXPECT_TRUE(early->read().body.contains("\"ret\":0"));
+    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,start"));
+}
+
+TEST_F(ServerApplicationTest, AStartThatTakesLongerThanARequestWaitsTellsSo)
+{
+    ServerApplication::Settings chosen = settings(m_folder.path());
+    chosen.startWait = std::chrono::milliseconds(1);
+    ServerApplication server(chosen, factory());
+    m_onOpen = [&] {
+        const RawReply reply = Http::ask(server.port(), Http::post(Heartbeat));
+        EXPECT_EQ(reply.status, 200);
+        EXPECT_TRUE(reply.body.contains("\"ret\":1")) << reply.body.constData();
+        EXPECT_TRUE(reply.body.contains("\"id\":\"7\"")) << reply.body.constData();
+        EXPECT_TRUE(reply.body.contains("starting")) << reply.body.constData();
+        EXPECT_EQ(Http::ask(server.port(), Http::get("/image/ab.jpg")).status, 503);
+    };
+    ASSERT_EQ(server.start(), ServerApplication::Ended);
+    EXPECT_TRUE(Http::ask(server.port(), Http::post(Heartbeat)).body.contains("\"ret\":0"));
+    EXPECT_EQ(Http::ask(server.port(), Http::get("/image/ab.jpg")).status, 404);
+}
+
+TEST_F(ServerApplicationTest, AStartThatFailsSendsAwayWhoWaitsForIt)
+{
+    m_opens = false;
+    ServerApplication::Settings chosen = settings(m_folder.path());
+    chosen.startWait = std::chrono::minutes(10);
+    ServerApplication server(chosen, factory());
+    std::vector<std::unique_ptr<RawClient>> early;
+    m_onOpen = [&] {
+        // More than are carried out at once.
+        for (int i = 0; i < 3 * chosen.http.threads; ++i) {
+            early.push_back(std::make_unique<RawClient>(server.port()));
+            EXPECT_TRUE(early.back()->send(Http::post(Heartbeat)));
+        }
+    };
+    EXPECT_EQ(server.start(), ServerApplication::NoDatabase);
+    EXPECT_EQ(server.port(), 0);
+    EXPECT_EQ(m_steps.join(','), QStringLiteral("open,destroyed"));
+    // What a thread had taken up is answered, the rest ends with the port.
+    for (const std::unique_ptr<RawClient> &client : early)
+        EXPECT_FALSE(client->read().body.contains("\"ret\":0"));
 }
 
 TEST_F(ServerApplicationTest, AWishOfTheSystemToEndComesThroughTheEventLoop)

@@ -7,6 +7,7 @@
 #include "library/HttpTransport.h"
 #include "library/JsonRpc.h"
 #include "library/MusicProtocol.h"
+#include "library/ProtocolNames.h"
 #include "library/ServerProcesses.h"
 #include "library/ServerStarter.h"
 #include "library/VideoProtocol.h"
@@ -18,10 +19,20 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace {
 
-constexpr char Counts[] = "[library] 2 movies, 0 collections, 1 shows (2 episodes), 1 videos, 0 adult, "
-                          "2 songs, 1 albums, 1 artists, 1 genres, 0 playlists";
+constexpr int FewSongs = 2;
+constexpr int ManySongs = 1500; // whose scan takes far longer than a question about it
+constexpr int ScanBeginsMs = 60000;
+
+QString counts(int songs)
+{
+    return QStringLiteral("[library] 2 movies, 0 collections, 1 shows (2 episodes), 1 videos, 0 adult, "
+                          "%1 songs, 1 albums, 1 artists, 1 genres, 0 playlists")
+        .arg(songs);
+}
 
 class PlayerLibraryTest : public testing::Test {
 protected:
@@ -40,9 +51,41 @@ protected:
     void startPlayer()
     {
         ASSERT_TRUE(m_player.start({"--library", m_tree.full("mine")}));
-        ASSERT_TRUE(m_player.waitForLog(Counts));
+        ASSERT_TRUE(m_player.waitForLog(counts(FewSongs)));
         m_server = m_player.serverId();
         ASSERT_NE(m_server, 0);
+    }
+
+    [[nodiscard]] QString serverLog() const
+    {
+        QFile file(m_player.serverFolder() + "/server.log");
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    // Both libraries hold the folder, and it is being scanned.
+    [[nodiscard]] bool isScanning() const
+    {
+        if (!serverLog().contains("[server] takes requests"))
+            return false;
+        HttpTransport transport;
+        const JsonRpc rpc(transport, m_player.serverPort());
+        const MusicProtocol music(rpc);
+        const auto folders = music.folders(music.libraryId().value_or(-1));
+        const QJsonObject beat = rpc.call(Rpc::Method::Heartbeat, {}, Rpc::Limit::Usual).object();
+        return folders && !folders->isEmpty() && beat.value(Rpc::Key::Finished) == QLatin1String("0");
+    }
+
+    // The player's server has scanned to the end.
+    [[nodiscard]] bool holds(int songs) const
+    {
+        if (m_player.serverId() == 0)
+            return false;
+        HttpTransport transport;
+        const JsonRpc rpc(transport, m_player.serverPort());
+        const MusicProtocol music(rpc);
+        const VideoProtocol videos(rpc);
+        return music.total(MusicLists::Songs, music.libraryId().value_or(-1)) == songs
+               && videos.heartbeat().isScanFinished;
     }
 
     // What another server finds in the folder that the player's has left.
@@ -109,6 +152,33 @@ TEST_F(PlayerLibraryTest, TheServerOfAPlayerThatIsKilledEndsByItselfAndLeavesIts
     EXPECT_TRUE(log.readAll().contains("[server] has ended")) << "it ended, but not by itself";
     log.close();
     expectRecordsIn(m_player.serverFolder());
+}
+
+TEST_F(PlayerLibraryTest, AWindowThatIsClosedDuringAScanTakesTheServerWithItAndTheNextStartGetsAFreshOne)
+{
+    for (int i = 0; i < ManySongs; ++i)
+        m_tree.sound(QStringLiteral("mine/Band/%1/%2.mp3").arg(i % 20).arg(i),
+                     {QStringLiteral("Song %1").arg(i), "Band", "First", {}, "Rock", 1999, i + 3, {}});
+    ASSERT_TRUE(m_player.start({"--library", m_tree.full("mine")}));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isScanning(); }, ScanBeginsMs));
+    const qint64 first = m_player.serverId();
+    ASSERT_NE(first, 0);
+    // The scan cannot come to its end before the window is closed, nor the server end in any other way than
+    // by force.
+    ASSERT_EQ(::kill(pid_t(first), SIGSTOP), 0);
+    EXPECT_EQ(m_player.stop(), 0);
+    EXPECT_TRUE(PlayerProcess::waitForEnd(first)) << "the server outlives its player";
+    EXPECT_EQ(m_player.serverId(), 0);
+    EXPECT_LT(serverLog().count(": scanned, "), 2) << "the scan was over before the window was closed";
+
+    ASSERT_TRUE(m_player.start({"--library", m_tree.full("mine")}));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return holds(FewSongs + ManySongs); }, ScanBeginsMs));
+    const qint64 second = m_player.serverId();
+    EXPECT_NE(second, 0);
+    EXPECT_NE(second, first);
+    EXPECT_FALSE(serverLog().contains("damaged")) << qPrintable(serverLog());
+    EXPECT_EQ(m_player.stop(), 0);
+    EXPECT_TRUE(PlayerProcess::waitForEnd(second)) << "the server outlives its player";
 }
 
 TEST(ServerStartTest, AServerThatIsGivenNoFolderTakesThatOfThePlayer)

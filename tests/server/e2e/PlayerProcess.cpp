@@ -27,6 +27,7 @@ constexpr int LogMs = 90000;
 
 PlayerProcess::PlayerProcess()
     : m_programs(QFileInfo(QStringLiteral(QUORIN_PLAYER)).path() + "/player-XXXXXX")
+    , m_serverPort(ServerProcess::freePort())
 {
     const QDir home(m_home.path());
     for (const char *folder : {"data", "config", "cache", "run", "tmp", "Documents", "Pictures"})
@@ -35,7 +36,7 @@ PlayerProcess::PlayerProcess()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove("QUORIN_NO_LIBRARY");
     environment.remove("DISPLAY");
-    environment.insert("QUORIN_LIBRARY_PORT", QString::number(ServerProcess::freePort()));
+    environment.insert("QUORIN_LIBRARY_PORT", QString::number(m_serverPort));
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("ORBIX_AO", "null");
     environment.insert("HOME", home.path());

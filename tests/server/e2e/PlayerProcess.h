@@ -17,7 +17,8 @@ public:
     PlayerProcess &operator=(const PlayerProcess &) = delete;
 
     [[nodiscard]] bool start(const QStringList &arguments);
-    // Asks it to end as the system does; the exit status, or -1 when it did not end by itself.
+    // Asks it to end as the system does, which closes its window; the exit status, or -1 when it did not end
+    // by itself.
     [[nodiscard]] int stop();
     // SIGKILL, and waits for the end.
     void kill();
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] bool waitForLog(const QString &text) const;
     // The data folder of the server that the player starts.
     [[nodiscard]] QString serverFolder() const;
+    // Where that server is asked.
+    [[nodiscard]] int serverPort() const { return m_serverPort; }
     // The server's process; 0 where none runs.
     [[nodiscard]] qint64 serverId() const;
     // False when the process, no child of this one, still lives after a while.
@@ -37,5 +40,6 @@ private:
     QTemporaryDir m_home;
     QTemporaryDir m_programs;
     QString m_server;
+    int m_serverPort{0};
     QProcess m_process;
 };

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -86,13 +87,16 @@ TEST(KeySequenceEditWidget, TakesAKeyAtItsPressAndEndsAtItsRelease)
     EXPECT_EQ(finished.count(), 1);
 }
 
-TEST(KeySequenceEditWidget, AModifierAloneIsNoKey)
+TEST(KeySequenceEditWidget, AModifierOrALockAloneIsNoKey)
 {
     KeySequenceEditWidget editor;
     QSignalSpy finished(&editor, &KeySequenceEditWidget::SIG_editFinished);
-    for (int key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta}) {
-        press(&editor, key);
-        release(&editor, key);
+    for (int key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr,
+                    Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock, Qt::Key_Super_L}) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(&editor, &event);
+        }
     }
     EXPECT_EQ(editor.keyValue(), 0);
     EXPECT_FALSE(editor.isUsed());

@@ -160,3 +160,29 @@ TEST(KeyMapModel, TwoStoredOperationsWithOneKeyStayAsTheyAre)
     EXPECT_EQ(keyOf(model, KeyOperate_Mute), 0);
     EXPECT_EQ(keyOf(model, KeyOperate_Stop), 0);
 }
+
+TEST(KeyMapModel, AKeyThatTheRowHasAlreadyIsTakenFromTheOthersAsWell)
+{
+    KeyMapModel model(Mode::Pc);
+    model.load({{KeyOperate_Mute, Qt::Key_F9}, {KeyOperate_Stop, Qt::Key_F9}});
+    QSignalSpy taken(&model, &KeyMapModel::keysTaken);
+    EXPECT_TRUE(setKey(model, KeyOperate_Mute, Qt::Key_F9));
+    EXPECT_EQ(keyOf(model, KeyOperate_Mute), int(Qt::Key_F9));
+    EXPECT_EQ(keyOf(model, KeyOperate_Stop), 0);
+    ASSERT_EQ(taken.count(), 1);
+    EXPECT_EQ(taken.first().at(1).value<QList<int>>(), QList<int>{KeyOperate_Stop});
+    model.undo();
+    EXPECT_EQ(keyOf(model, KeyOperate_Stop), int(Qt::Key_F9));
+}
+
+TEST(KeyMapModel, AModifierOrALockAloneIsNoKeyOfAnOperation)
+{
+    for (const int key : {Qt::Key_AltGr, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock,
+                          Qt::Key_Super_L, Qt::Key_Shift}) {
+        KeyMapModel model(Mode::Pc);
+        model.load({{KeyOperate_Mute, key}});
+        EXPECT_EQ(keyOf(model, KeyOperate_Mute), 0) << key;
+        EXPECT_TRUE(setKey(model, KeyOperate_Stop, key));
+        EXPECT_EQ(keyOf(model, KeyOperate_Stop), 0) << key;
+    }
+}

@@ -14,7 +14,7 @@ int usableKey(int key)
         return kNoKey;
     const int normal = KeyMapTables::normalizedKey(key);
     const int code = normal & ~int(Qt::KeyboardModifierMask);
-    return KeyMapTables::isModifierOrNone(code) || code == Qt::Key_unknown ? kNoKey : normal;
+    return KeyMapTables::isBindable(code) ? normal : kNoKey;
 }
 
 } // namespace
@@ -98,11 +98,12 @@ bool KeyMapModel::setData(const QModelIndex &index, const QVariant &value, int r
 
 void KeyMapModel::setKey(int row, int key)
 {
-    if (m_keys.at(row) == key)
+    // A stored map may hold one key twice: whoever is given it again has it alone.
+    const QList<QModelIndex> conflicts = conflictsOf(row, key);
+    if (m_keys.at(row) == key && conflicts.isEmpty())
         return;
     m_before = m_keys;
     QList<int> taken;
-    const QList<QModelIndex> conflicts = conflictsOf(row, key);
     for (const QModelIndex &other : conflicts) {
         m_keys[other.row()] = kNoKey;
         taken.append(m_operations.at(other.row()));

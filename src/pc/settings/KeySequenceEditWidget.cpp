@@ -63,7 +63,7 @@ bool KeySequenceEditWidget::event(QEvent *event)
 void KeySequenceEditWidget::keyPressEvent(QKeyEvent *event)
 {
     event->accept();
-    if (KeyMapTables::isModifierOrNone(event->key()) || event->key() == Qt::Key_unknown)
+    if (!KeyMapTables::isBindable(event->key()))
         return;
     // Held since before the editor was there.
     if (event->isAutoRepeat() && !m_isUsed)
@@ -76,7 +76,7 @@ void KeySequenceEditWidget::keyPressEvent(QKeyEvent *event)
 void KeySequenceEditWidget::keyReleaseEvent(QKeyEvent *event)
 {
     event->accept();
-    if (KeyMapTables::isModifierOrNone(event->key()) || event->isAutoRepeat() || !m_isUsed)
+    if (!KeyMapTables::isBindable(event->key()) || event->isAutoRepeat() || !m_isUsed)
         return;
     if (valueOf(event) == m_ignoredKey)
         setKeySequence({});

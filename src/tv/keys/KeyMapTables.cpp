@@ -236,6 +236,26 @@ bool isModifierOrNone(int key)
     }
 }
 
+bool isBindable(int key)
+{
+    switch (key) {
+    case Qt::Key_AltGr:
+    case Qt::Key_Mode_switch:
+    case Qt::Key_Multi_key:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_unknown:
+        return false;
+    default:
+        return !isModifierOrNone(key);
+    }
+}
+
 QString keyOperateName(int type)
 {
     for (const KeyRow &row : kRows) {

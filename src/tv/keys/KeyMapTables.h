@@ -45,6 +45,10 @@ enum class Mode { Pc, Tv };
 // True for a modifier alone and for no key at all.
 [[nodiscard]] bool isModifierOrNone(int key);
 
+// False for what is pressed for the sake of other keys, a modifier or a lock, and for keys that have no code:
+// no operation can have them.
+[[nodiscard]] bool isBindable(int key);
+
 // The operation in the words of the settings page; empty for an unknown one.
 [[nodiscard]] QString keyOperateName(int type);
 

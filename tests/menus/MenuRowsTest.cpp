@@ -203,3 +203,13 @@ TEST_F(MenuRowsTest, AStepStaysWithinTheSource)
     trigger("10 Forward");
     EXPECT_EQ(asked, QStringList({"seek 0", "seek 14"}));
 }
+
+TEST_F(MenuRowsTest, AStepInASourceOfUnknownLengthGoesOn)
+{
+    play();
+    engine.answer("IVDPlay::currentSeconds", 90);
+    engine.answer("IVDPlay::totalSeconds", 0);
+    trigger("10 Backward");
+    trigger("10 Forward");
+    EXPECT_EQ(asked, QStringList({"seek 80", "seek 100"}));
+}

@@ -68,7 +68,10 @@ template<int Seconds>
 void seekBy(MenuHost &host, const QString &)
 {
     QPlayer &player = *host.player();
-    host.seek(qRound(qBound(0.0, player.currentTime() + Seconds, player.totalTime())));
+    const double target = qMax(0.0, player.currentTime() + Seconds);
+    // A stream may have no length that is known.
+    const double total = player.totalTime();
+    host.seek(qRound(total > 0 ? qMin(target, total) : target));
 }
 
 void cycleAudio(MenuHost &host, const QString &)

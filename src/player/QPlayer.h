@@ -198,7 +198,8 @@ public:
     void setBrightness(float value); // 0 to 100, 50 leaves the picture; the same for the next two
     void setContrast(float value);
     void setSaturation(float value);
-    void setDeinterlaceMode(int mode);
+    void setDeinterlaceMode(int mode); // 0 off, 1 automatic, 2 on
+    [[nodiscard]] int deinterlaceMode() const { return m_deinterlaceMode; }
     bool takeScreenshot(int mode, int width, int height);
     [[nodiscard]] double displayAspect();
     void showInformationOverlay(bool show);
@@ -479,6 +480,7 @@ private:
     std::atomic_int m_status{QPlayerStatus_None};
     std::atomic_bool m_threeDEnabled{false};
     std::atomic_int m_viewMode{0};
+    std::atomic_int m_deinterlaceMode{0};
     std::atomic_int m_titleNumber{-1};
     std::atomic_int m_sourceType{libvp::VD_Item_Default};
     std::atomic_int m_thumbnailHandle{0};

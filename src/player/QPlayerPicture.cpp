@@ -140,6 +140,7 @@ void QPlayer::setSaturation(float value)
 
 void QPlayer::setDeinterlaceMode(int mode)
 {
+    m_deinterlaceMode = mode;
     onTool([mode](libvp::IVDPlayTool &tool) { tool.setDeinterlaceMode(mode); });
 }
 

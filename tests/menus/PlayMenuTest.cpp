@@ -1,6 +1,7 @@
 #include "MenuFixture.h"
 
 #include "core/SettingsKeys.h"
+#include "player/EnginePreferences.h"
 
 namespace {
 
@@ -73,7 +74,7 @@ TEST_F(PlayMenuTest, MarksShowWhatThePlayerReports)
 {
     play();
     player->setViewMode(12);
-    settings.setValue(SettingsKeys::PC_Deinterlace, 2);
+    player->setDeinterlaceMode(2);
     settings.setValue(SettingsKeys::PC_ShowMeta, true);
     setAudioTracks(3);
     engine.answer("IVDPlay::audioTrack", 1);
@@ -86,6 +87,16 @@ TEST_F(PlayMenuTest, MarksShowWhatThePlayerReports)
     }
     EXPECT_EQ(QSet<QString>(checked.begin(), checked.end()),
               QSet<QString>({"2.39 : 1", "deinterlaceOn", "information", "AudioStream_1", "subtitleOff"}));
+}
+
+TEST_F(PlayMenuTest, ADeinterlaceModeOutsideItsRangeIsMarkedAsThePlayerHasIt)
+{
+    settings.setValue(SettingsKeys::PC_Deinterlace, 7);
+    play();
+    EnginePreferences(settings, *player).applyPicture();
+    EXPECT_EQ(call("IVDPlayTool::setDeinterlaceMode"), "IVDPlayTool::setDeinterlaceMode(2)");
+    open();
+    EXPECT_TRUE(action("deinterlaceOn")->isChecked());
 }
 
 TEST_F(PlayMenuTest, ThePlayEntryTellsWhatItWillDo)

@@ -54,6 +54,7 @@ MenuState MenuState::of(QPlayer *player, bool hasSource)
     if (player == nullptr)
         return state;
     state.viewMode = player->viewMode();
+    state.deinterlace = player->deinterlaceMode();
     if (!hasSource)
         return state;
     state.hasSource = true;

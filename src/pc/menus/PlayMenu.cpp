@@ -32,7 +32,6 @@ MenuState PlayMenu::state(const QVector<MenuState::Entry> &discs) const
     const auto isOn = [this](const char *key) { return m_host.settings.value(QLatin1String(key)).toBool(); };
     state.isAlwaysOnTop = isOn(SettingsKeys::PC_AlwaysOnTop);
     state.isInformationShown = isOn(SettingsKeys::PC_ShowMeta);
-    state.deinterlace = m_host.settings.value(QLatin1String(SettingsKeys::PC_Deinterlace)).toInt();
     if (state.hasSource)
         state.shaders = shaders(player->customShader());
     return state;

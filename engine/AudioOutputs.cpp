@@ -63,9 +63,9 @@ unsigned capabilityOf(int connection)
 
 void AudioOutputs::readOnce()
 {
-    if (m_known)
+    // A sound system that was not there yet may be at the next question.
+    if (!m_devices.empty())
         return;
-    m_known = true;
     const MpvValue list = m_read();
     for (const MpvValue &entry : list.list()) {
         const std::string &nativeName = entry.at("name").text();
@@ -92,6 +92,8 @@ void AudioOutputs::readOnce()
         m_devices.push_back(device);
         m_nativeNames.push_back(nativeName);
     }
+    if (m_devices.empty())
+        return;
     m_list.count = static_cast<int>(m_devices.size());
     m_list.devices = m_devices.data();
 }
@@ -100,7 +102,7 @@ const VDAudioDeviceList &AudioOutputs::devices()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     readOnce();
-    return m_list;
+    return m_devices.empty() ? m_none : m_list;
 }
 
 std::string AudioOutputs::nativeName(const std::string &name)

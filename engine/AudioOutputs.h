@@ -1,6 +1,7 @@
 // The sound devices of this machine as the player lists them, and what of them libmpv is told.
 //
-// Read once, at the first need, which waits for the sound system. May be used from any thread.
+// Read at the first need, which waits for the sound system, and not again once there are any. May be used
+// from any thread.
 #pragma once
 
 #include "MpvValue.h"
@@ -20,7 +21,8 @@ public:
     {
     }
 
-    // Never empty: the first one leaves the choice to the sound system. Valid as long as this object.
+    // The first one leaves the choice to the sound system; empty while that tells of none. Valid as long as
+    // this object.
     const libvp::VDAudioDeviceList &devices();
 
     // libmpv's name of a device, empty when there is none of that name.
@@ -40,8 +42,9 @@ private:
 
     std::function<MpvValue()> m_read;
     std::mutex m_mutex;
-    bool m_known{false};
     std::vector<libvp::VDAudioDevice> m_devices;
     std::vector<std::string> m_nativeNames; // same order
     libvp::VDAudioDeviceList m_list;
+    // Apart from the other: an answer that was given is not written to any more.
+    const libvp::VDAudioDeviceList m_none;
 };

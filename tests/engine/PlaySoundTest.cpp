@@ -176,6 +176,25 @@ TEST(PlayAudioOutputs, ConnectionFollowsFromTheNames)
         EXPECT_EQ(AudioOutputs::connectionOf(row.name, row.description), row.connection) << row.name;
 }
 
+TEST(PlayAudioOutputs, ASoundSystemThatComesLaterIsFoundAtTheNextQuestion)
+{
+    int questions = 0;
+    bool isThere = false;
+    AudioOutputs outputs([&] {
+        ++questions;
+        return isThere ? MpvValue(MpvList{MpvMap{{"name", "a"}, {"description", "Speaker"}}})
+                       : MpvValue(MpvList{});
+    });
+    EXPECT_EQ(outputs.devices().count, 0);
+    EXPECT_EQ(outputs.nativeName("Speaker"), "");
+    EXPECT_EQ(questions, 2);
+    isThere = true;
+    EXPECT_EQ(outputs.devices().count, 1);
+    EXPECT_EQ(outputs.nativeName("Speaker"), "a");
+    EXPECT_EQ(outputs.devices().count, 1);
+    EXPECT_EQ(questions, 3) << "what is known is not asked for again";
+}
+
 TEST(PlayAudioOutputs, DevicesOfOneDescriptionStayApart)
 {
     AudioOutputs outputs([] {

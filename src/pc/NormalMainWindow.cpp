@@ -402,7 +402,7 @@ void NormalMainWindow::onSourceOpened(bool isVideo)
     m_overlays->showOpened(m_control->currentPath(), m_control->isDisc());
     // Its titles are chosen there.
     if (m_control->isDisc())
-        m_overlays->playlist()->addSources({m_control->currentPath()});
+        m_overlays->playlist()->addSources({m_control->askedPath()});
     m_recent.add(m_control->displayName(), m_control->currentPath(),
                  RecentFiles::Type(m_control->sourceKind()));
     // A second reading of a disc would fight with the first for the laser.

@@ -66,9 +66,11 @@ bool NormalPlayControl::play(const QString &path, int title)
     }
     m_presence.check({}); // whatever was to follow the last source
     const PlaySource source = m_paths.resolve(path);
+    m_askedPath = path;
     m_currentPath = source.path;
     m_displayName = source.displayName;
-    const int queueTitle = m_queueTitle ? m_queueTitle(source.path) : -1;
+    // The queue knows a source by what was asked for, with its scheme or the title of its cue sheet.
+    const int queueTitle = m_queueTitle ? m_queueTitle(path) : -1;
     m_titleNumber = title != -1 ? title : queueTitle;
     m_sourceKind = source.kind;
     m_hasSource = true;

@@ -32,7 +32,8 @@ public:
     // The episode that follows the source at its end, empty without one; asked when the source has ended.
     void setNextEpisode(std::function<QString()> nextEpisode) { m_nextEpisode = std::move(nextEpisode); }
 
-    // Told of each source that is on its way; gives the title to open where none was asked for, -1 for none.
+    // Told of each source that is on its way, by the path that was asked for; gives the title to open where
+    // none was asked for, -1 for none.
     void setQueueTitle(std::function<int(const QString &path)> queueTitle)
     {
         m_queueTitle = std::move(queueTitle);
@@ -48,6 +49,8 @@ public:
     // A source is on its way or plays.
     [[nodiscard]] bool hasSource() const { return m_hasSource; }
     [[nodiscard]] QString currentPath() const { return m_currentPath; }
+    // The same source in the words of the request, which may hold a scheme or the title of a cue sheet.
+    [[nodiscard]] QString askedPath() const { return m_askedPath; }
     [[nodiscard]] QString displayName() const { return m_displayName; }
     [[nodiscard]] QString mediaKind() const { return m_mediaKind; }
     [[nodiscard]] int resumeSeconds() const { return m_resumeSeconds; }
@@ -127,6 +130,7 @@ private:
     std::function<int(const QString &path)> m_queueTitle;
 
     QString m_currentPath;
+    QString m_askedPath;
     QString m_displayName;
     QString m_mediaKind;
     int m_titleNumber{-1};

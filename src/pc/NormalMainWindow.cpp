@@ -46,6 +46,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QIcon>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -180,6 +181,9 @@ void NormalMainWindow::connectParts()
             });
 
     auto *filter = AppEventFilter::instance();
+    filter->setKeyOwner([window = QPointer<NormalMainWindow>(this)](const QKeyEvent &event) {
+        return window && window->isKeyOfPart(event);
+    });
     connect(filter, &AppEventFilter::SIG_PcKeyOperate, this, &NormalMainWindow::slot_hotKey);
     connect(filter, &AppEventFilter::SIG_mouseMove, this, &NormalMainWindow::SLOT_haveMouseMove);
     connect(filter, &AppEventFilter::SIG_mouseStopMove, this, &NormalMainWindow::SLOT_mouseMoveStop);

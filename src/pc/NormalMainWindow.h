@@ -163,6 +163,8 @@ private:
     void pauseWhileMinimized();
     void passMouseToDisc(const QMouseEvent &event);
 
+    // Whether the part over the picture that has the keyboard takes the key for itself.
+    [[nodiscard]] bool isKeyOfPart(const QKeyEvent &event) const;
     SettingsManager &m_settings;
     WindowPlacement m_placement;
     RecentFiles m_recent;

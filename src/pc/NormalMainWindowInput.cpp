@@ -14,6 +14,7 @@
 
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
+#include "keys/AppEventFilter.h"
 #include "platform/WindowMessage.h"
 #include "playcontrol/DropReader.h"
 #include "player/QPlayer.h"
@@ -29,22 +30,8 @@
 #include <QMimeData>
 #include <QStackedWidget>
 
-#include <algorithm>
-#include <iterator>
-
 void NormalMainWindow::slot_hotKey(KeyOperateType type)
 {
-    // The keyboard is in the playlist.
-    if (m_overlays->playlist()->isKeyboardUsed())
-        return;
-    // What the strip of pictures takes for itself.
-    constexpr KeyOperateType OfStrip[] = {KeyOperate_Up,         KeyOperate_Down,
-                                          KeyOperate_Left,       KeyOperate_Right,
-                                          KeyOperate_Accept,     KeyOperate_PreviousChapter,
-                                          KeyOperate_NextChapter};
-    if (m_overlays->preview()->isStripOpen()
-        && std::find(std::begin(OfStrip), std::end(OfStrip), type) != std::end(OfStrip))
-        return;
     if (type == KeyOperate_SmartView) {
         if (m_control->hasSource())
             m_overlays->bar()->slot_clickPreview();
@@ -80,8 +67,20 @@ void NormalMainWindow::slot_changeVolume(int nCount)
 
 void NormalMainWindow::keyPressEvent(QKeyEvent *event)
 {
+bool NormalMainWindow::isKeyOfPart(const QKeyEvent &event) const
+{
+    return isPlayViewShown()
+           && (m_overlays->playlist()->takesKey(event) || m_overlays->preview()->takesKey(event)
+               || (m_overlays->isAwake() && m_overlays->bar()->takesKey(event)));
+}
+
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    // Its operation has run: a key acts once.
+    if (AppEventFilter::instance()->isKeySpent()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
     if (isPlayViewShown()
         && (m_overlays->playlist()->handleKey(event) || m_overlays->preview()->handleKey(event)))
         return;

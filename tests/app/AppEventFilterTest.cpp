@@ -84,6 +84,27 @@ TEST_F(AppEventFilterTest, AKeyOfATransparentBarIsOneOfTheWindow)
     EXPECT_EQ(typeOf(m_pcSpy), KeyOperate_PlayPause);
 }
 
+TEST_F(AppEventFilterTest, AKeyThatAPartTakesIsNoOperation)
+{
+    m_filter.setKeyOwner([](const QKeyEvent &event) { return event.key() == Qt::Key_Space; });
+    EXPECT_FALSE(press(&m_window, Qt::Key_Space));
+    EXPECT_TRUE(m_pcSpy.isEmpty());
+    EXPECT_FALSE(m_filter.isKeySpent());
+    EXPECT_FALSE(press(&m_window, Qt::Key_M));
+    EXPECT_EQ(m_pcSpy.size(), 1);
+    EXPECT_TRUE(m_filter.isKeySpent());
+}
+
+TEST_F(AppEventFilterTest, ABoundKeyIsSpentEvenWhileOperationsAreBlocked)
+{
+    m_filter.setKeyBlocked(true);
+    press(&m_window, Qt::Key_Space);
+    EXPECT_TRUE(m_pcSpy.isEmpty());
+    EXPECT_TRUE(m_filter.isKeySpent());
+    press(&m_window, Qt::Key_F10);
+    EXPECT_FALSE(m_filter.isKeySpent()) << "nothing is bound to it";
+}
+
 TEST_F(AppEventFilterTest, OfTwoStoredOperationsWithOneKeyTheLowerFiresAndTheOtherNever)
 {
     store({{KeyOperate_Stop, Qt::Key_X}, {KeyOperate_Mute, Qt::Key_X}});

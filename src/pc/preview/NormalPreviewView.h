@@ -15,6 +15,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <vector>
 
 class DialogSlider;
 class NormalPreviewDelegate;
@@ -49,6 +50,7 @@ public:
     void setPlayingSecond(int second);
 
     // A key of the window while the strip is open. False when it is not for the strip.
+    [[nodiscard]] bool takesKey(const QKeyEvent &event) const;
     bool handleKey(QKeyEvent *event);
     void retranslate();
 
@@ -101,6 +103,9 @@ private:
     void followPlaying();
     void moveCursor(int key);
     [[nodiscard]] int nextRow(int from, int direction) const;
+    // The parts that the keyboard goes along, and the one where it is.
+    [[nodiscard]] std::vector<QWidget *> stops() const;
+    [[nodiscard]] QWidget *keyboardPart() const;
     void setKeyboardUsed(bool used);
     void showNote(const QString &text);
     [[nodiscard]] int room() const;

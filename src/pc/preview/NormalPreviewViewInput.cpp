@@ -15,7 +15,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -54,60 +53,85 @@ void NormalPreviewView::keyPressEvent(QKeyEvent *event)
         OverlayWidget::keyPressEvent(event);
 }
 
-bool NormalPreviewView::handleKey(QKeyEvent *event)
+std::vector<QWidget *> NormalPreviewView::stops() const
+{
+    // Without pictures there is nothing but the way out.
+    if (!m_note->text().isEmpty())
+        return {m_closeButton};
+    return {m_list, m_zoom, m_quantity, m_closeButton};
+}
+
+QWidget *NormalPreviewView::keyboardPart() const
+{
+    const std::vector<QWidget *> all = stops();
+    const bool isUsed = window()->property(FocusRing::Property).toBool();
+    const auto stop = std::find(all.begin(), all.end(), window()->focusWidget());
+    return isUsed && stop != all.end() ? *stop : all.front();
+}
+
+bool NormalPreviewView::takesKey(const QKeyEvent &event) const
 {
     if (m_state == State::Closed
-        || (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
+        || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
         return false;
-    // Without pictures there is nothing but the way out.
-    std::vector<QWidget *> stops{m_closeButton};
-    if (m_note->text().isEmpty())
-        stops = {m_list, m_zoom, m_quantity, m_closeButton};
-    const bool isUsed = window()->property(FocusRing::Property).toBool();
-    const auto stop = std::find(stops.begin(), stops.end(), window()->focusWidget());
-    QWidget *current = isUsed && stop != stops.end() ? *stop : stops.front();
-    switch (event->key()) {
+    const QWidget *current = keyboardPart();
+    switch (event.key()) {
     case Qt::Key_Tab:
-    case Qt::Key_Backtab: {
-        const bool isBack = event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier) != 0;
-        // The first press shows where the cursor is.
-        const auto at = std::size_t(std::find(stops.begin(), stops.end(), current) - stops.begin());
-        const std::size_t next = !isUsed ? 0 : (at + (isBack ? stops.size() - 1 : 1)) % stops.size();
-        stops[next]->setFocus(isBack ? Qt::BacktabFocusReason : Qt::TabFocusReason);
-        setKeyboardUsed(true);
-        return true;
-    }
+    case Qt::Key_Backtab:
     case Qt::Key_Escape:
-        emit sig_closeClicked();
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (current == m_closeButton)
-            m_closeButton->click();
-        else if (current == m_list && m_hasCursor)
-            slot_seek(m_list->currentIndex());
-        else
-            return false;
-        return true;
+        return current == m_closeButton || (current == m_list && m_hasCursor);
     case Qt::Key_Left:
     case Qt::Key_Right:
-        if (auto *slider = qobject_cast<DialogSlider *>(current)) {
-            slider->triggerAction(event->key() == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub
-                                                               : QAbstractSlider::SliderSingleStepAdd);
-            return true;
-        }
-        [[fallthrough]];
+        return current == m_list || qobject_cast<const DialogSlider *>(current) != nullptr;
     case Qt::Key_Home:
     case Qt::Key_End:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        if (current != m_list)
-            return false;
-        moveCursor(event->key());
-        return true;
+        return current == m_list;
     default:
         return false;
     }
+}
+
+bool NormalPreviewView::handleKey(QKeyEvent *event)
+{
+    if (!takesKey(*event))
+        return false;
+    QWidget *current = keyboardPart();
+    switch (event->key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: {
+        const std::vector<QWidget *> all = stops();
+        const bool isUsed = window()->property(FocusRing::Property).toBool();
+        const bool isBack = event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier) != 0;
+        // The first press shows where the cursor is.
+        const auto at = std::size_t(std::find(all.begin(), all.end(), current) - all.begin());
+        const std::size_t next = !isUsed ? 0 : (at + (isBack ? all.size() - 1 : 1)) % all.size();
+        all[next]->setFocus(isBack ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+        setKeyboardUsed(true);
+        break;
+    }
+    case Qt::Key_Escape:
+        emit sig_closeClicked();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (current == m_closeButton)
+            m_closeButton->click();
+        else
+            slot_seek(m_list->currentIndex());
+        break;
+    default:
+        if (auto *slider = qobject_cast<DialogSlider *>(current))
+            slider->triggerAction(event->key() == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub
+                                                               : QAbstractSlider::SliderSingleStepAdd);
+        else
+            moveCursor(event->key());
+    }
+    return true;
 }
 
 int NormalPreviewView::nextRow(int from, int direction) const

@@ -101,6 +101,11 @@ bool SmartPreview::isStripOpen() const
     return m_strip->state() != NormalPreviewView::State::Closed;
 }
 
+bool SmartPreview::takesKey(const QKeyEvent &event) const
+{
+    return m_strip->takesKey(event);
+}
+
 bool SmartPreview::handleKey(QKeyEvent *event)
 {
     return m_strip->handleKey(event);

@@ -48,6 +48,7 @@ public:
 
     [[nodiscard]] bool isStripOpen() const;
     // A key of the window. False when the strip is closed or does not want it.
+    [[nodiscard]] bool takesKey(const QKeyEvent &event) const;
     bool handleKey(QKeyEvent *event);
     void retranslate();
 

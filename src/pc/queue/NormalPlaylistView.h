@@ -71,6 +71,7 @@ public:
     void addSources(const QStringList &paths) { m_queue->add(paths); }
     void save() { m_queue->save(); }
     // False when the key is none of the panel's: it is closed, or the keyboard is not in it.
+    [[nodiscard]] bool takesKey(const QKeyEvent &event) const;
     bool handleKey(QKeyEvent *event);
     // The keyboard belongs to the panel, from a press on it until Escape, a press elsewhere or its close.
     void setKeyboardUsed(bool used);
@@ -149,6 +150,10 @@ private:
     void showHover(const QModelIndex &index);
     void setDropping(bool dropping);
     [[nodiscard]] static int searchMs();
+    // A name is being typed.
+    [[nodiscard]] bool isSearching() const;
+    // The part that has the keyboard.
+    [[nodiscard]] QWidget *keyboardPart() const;
     void openContainingFolder();
 
     SettingsManager &m_settings;

@@ -101,21 +101,40 @@ void NormalPlaylistView::showFocus(bool shown)
     viewInUse()->viewport()->update();
 }
 
-bool NormalPlaylistView::handleKey(QKeyEvent *event)
+QWidget *NormalPlaylistView::keyboardPart() const
+{
+    QWidget *current = window()->focusWidget();
+    return current != nullptr && isAncestorOf(current) ? current : viewInUse();
+}
+
+bool NormalPlaylistView::takesKey(const QKeyEvent &event) const
 {
     if (!m_isOpen || !m_isKeyboardUsed)
         return false;
-    QWidget *current = window()->focusWidget();
-    if (current == nullptr || !isAncestorOf(current))
-        current = viewInUse();
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    default:
+        break;
+    }
+    if (qobject_cast<TransportButton *>(keyboardPart()) != nullptr)
+        return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+    return useOf(event, isSearching()) != KeyUse::Foreign;
+}
+
+bool NormalPlaylistView::handleKey(QKeyEvent *event)
+{
+    if (!takesKey(*event))
+        return false;
     switch (event->key()) {
     case Qt::Key_Escape:
         setKeyboardUsed(false);
         return true;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-        if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-            return false;
         // The first press shows where the cursor is.
         if (window()->property(FocusRing::Property).toBool())
             focusNextPrevChild(event->key() == Qt::Key_Tab && !(event->modifiers() & Qt::ShiftModifier));
@@ -124,15 +143,10 @@ bool NormalPlaylistView::handleKey(QKeyEvent *event)
     default:
         break;
     }
-    if (auto *button = qobject_cast<TransportButton *>(current)) {
-        const bool presses =
-            event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-        if (presses)
-            button->click();
-        return presses;
+    if (auto *button = qobject_cast<TransportButton *>(keyboardPart())) {
+        button->click();
+        return true;
     }
-    if (useOf(*event, m_searchClock.isValid() && !m_searchClock.hasExpired(searchMs())) == KeyUse::Foreign)
-        return false;
     viewInUse()->setFocus(Qt::OtherFocusReason);
     QCoreApplication::sendEvent(viewInUse(), event);
     return true;
@@ -143,10 +157,14 @@ int NormalPlaylistView::searchMs()
     return QApplication::keyboardInputInterval();
 }
 
+bool NormalPlaylistView::isSearching() const
+{
+    return m_searchClock.isValid() && !m_searchClock.hasExpired(searchMs());
+}
+
 bool NormalPlaylistView::dealRowKey(QKeyEvent *event)
 {
-    const bool searches = m_searchClock.isValid() && !m_searchClock.hasExpired(searchMs());
-    const KeyUse use = useOf(*event, searches);
+    const KeyUse use = useOf(*event, isSearching());
     if (use == KeyUse::Foreign) {
         event->ignore();
         return true;

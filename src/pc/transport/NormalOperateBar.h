@@ -92,6 +92,8 @@ public:
     // A key of the window while the bar is shown: Tab and Shift+Tab move the keyboard's cursor along the bar,
     // Enter presses, the arrows move a slider, Escape ends it. False when the key is not for the bar.
     bool handleKey(QKeyEvent *event);
+    // The keyboard is in the bar, and the key does something there.
+    [[nodiscard]] bool takesKey(const QKeyEvent &event) const;
 
     void retranslate();
 

@@ -216,42 +216,51 @@ void NormalOperateBar::slot_dealMenuAction(QAction *action)
 
 // ---- keyboard and tool tips
 
-bool NormalOperateBar::handleKey(QKeyEvent *event)
+bool NormalOperateBar::takesKey(const QKeyEvent &event) const
 {
-    if (!isVisible())
+    if (!isVisible() || !window()->property(FocusRing::Property).toBool())
         return false;
-    const bool used = window()->property(FocusRing::Property).toBool();
-    QWidget *current = used ? window()->focusWidget() : nullptr;
-    switch (event->key()) {
+    const QWidget *current = window()->focusWidget();
+    switch (event.key()) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-        if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-            return false;
-        setKeyboardUsed(true);
-        // The first press shows where the cursor is.
-        if (current != nullptr || window()->focusWidget() == nullptr)
-            focusNextPrevChild(event->key() == Qt::Key_Tab && !(event->modifiers() & Qt::ShiftModifier));
-        update();
-        return true;
+        return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     case Qt::Key_Escape:
-        setKeyboardUsed(false);
-        return used;
+        return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (auto *pressed = qobject_cast<TransportButton *>(current)) {
-            pressed->click();
-            return true;
-        }
-        return false;
+        return qobject_cast<const TransportButton *>(current) != nullptr;
     case Qt::Key_Left:
     case Qt::Key_Right:
-        if (qobject_cast<QAbstractSlider *>(current) == nullptr)
-            return false;
-        QCoreApplication::sendEvent(current, event);
-        return event->isAccepted();
+        return qobject_cast<const QAbstractSlider *>(current) != nullptr;
     default:
         return false;
     }
+}
+
+bool NormalOperateBar::handleKey(QKeyEvent *event)
+{
+    const bool isUsed = takesKey(*event);
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    const bool comes = isTab && isVisible()
+                       && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (!isUsed && !comes)
+        return false;
+    QWidget *current = window()->focusWidget();
+    if (isTab) {
+        setKeyboardUsed(true);
+        // The first press shows where the cursor is.
+        if (isUsed || current == nullptr)
+            focusNextPrevChild(event->key() == Qt::Key_Tab && !(event->modifiers() & Qt::ShiftModifier));
+        update();
+    } else if (event->key() == Qt::Key_Escape) {
+        setKeyboardUsed(false);
+    } else if (auto *pressed = qobject_cast<TransportButton *>(current)) {
+        pressed->click();
+    } else {
+        QCoreApplication::sendEvent(current, event);
+    }
+    return true;
 }
 
 void NormalOperateBar::setKeyboardUsed(bool used)

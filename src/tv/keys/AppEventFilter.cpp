@@ -59,6 +59,8 @@ void AppEventFilter::stop()
     m_mouseMoveEnabled = false;
     m_stopTimer.stop();
     setMainWindow(nullptr, nullptr);
+    setKeyOwner(nullptr);
+    m_isKeySpent = false;
 }
 
 QString AppEventFilter::keyText(bool tv, int type) const
@@ -90,6 +92,8 @@ void AppEventFilter::SLOT_timeOut()
 bool AppEventFilter::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
+    if (type == QEvent::KeyPress)
+        m_isKeySpent = false;
     if (m_pcMode) {
         if (type == QEvent::KeyPress && m_keyEnabled && isMainWidgetOrBar(watched))
             handlePcKey(static_cast<QKeyEvent *>(event));
@@ -129,11 +133,15 @@ void AppEventFilter::handlePcKey(const QKeyEvent *event)
     if (KeyMapTables::isModifierOrNone(event->key()))
         return;
     const int type = KeyMapTables::operationOf(m_pcKeyMap, keyValue(event));
-    if (type < 0 || m_keyBlocked)
+    if (type < 0 || (m_takesKey && m_takesKey(*event)))
         return;
-    if (ApplicationInfoManager::debugHotKey())
-        qInfo().noquote() << QStringLiteral("[PC_Hotkey] pc send key type: %1").arg(type);
-    emit SIG_PcKeyOperate(KeyOperateType(type));
+    if (!m_keyBlocked) {
+        if (ApplicationInfoManager::debugHotKey())
+            qInfo().noquote() << QStringLiteral("[PC_Hotkey] pc send key type: %1").arg(type);
+        emit SIG_PcKeyOperate(KeyOperateType(type));
+    }
+    // Only now: other keys may have been pressed in a loop of the operation's own.
+    m_isKeySpent = true;
 }
 
 bool AppEventFilter::handleTvKey(const QKeyEvent *event)

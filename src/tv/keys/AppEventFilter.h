@@ -39,6 +39,13 @@ public:
     // number of volume steps.
     void setMainWindow(QWidget *window, std::function<void(int)> changeVolume);
 
+    // Asked before a key of PC mode becomes an operation: whether a part of the window that has the keyboard
+    // takes the key for itself. Empty while there is no such part.
+    void setKeyOwner(std::function<bool(const QKeyEvent &)> takesKey) { m_takesKey = std::move(takesKey); }
+    // The key of PC mode that is on its way to the window belongs to an operation, which has had it: whoever
+    // receives the key does nothing of its own with it.
+    [[nodiscard]] bool isKeySpent() const { return m_isKeySpent; }
+
     // No event is turned into an operation any more: the window is about to go.
     void stop();
 
@@ -77,5 +84,7 @@ private:
     int m_moveCount{0};
     QPointer<QWidget> m_mainWidget;
     std::function<void(int)> m_changeVolume;
+    std::function<bool(const QKeyEvent &)> m_takesKey;
+    bool m_isKeySpent{false};
     MapReader m_reader;
 };

@@ -77,6 +77,7 @@ public slots:
     void slot_openMedia();
     void slot_loadSubtitle();
     void slot_aboutAction();
+    void slot_feedbackAction();
     void slot_menuClicked();
     void slot_hotKey(KeyOperateType type);
     void slot_dealMenuAction(QAction *action);
@@ -162,9 +163,9 @@ private:
     void noteNormalGeometry();
     void pauseWhileMinimized();
     void passMouseToDisc(const QMouseEvent &event);
-
     // Whether the part over the picture that has the keyboard takes the key for itself.
     [[nodiscard]] bool isKeyOfPart(const QKeyEvent &event) const;
+
     SettingsManager &m_settings;
     WindowPlacement m_placement;
     RecentFiles m_recent;

@@ -160,6 +160,16 @@ void NormalMainWindow::slot_aboutAction()
 }
 
 void NormalMainWindow::openDialog(PopDlgTyle type)
+// There is no maker's address in the program, and none is made up.
+void NormalMainWindow::slot_feedbackAction()
+{
+    if (m_isClosed)
+        return;
+    qInfo() << "[Feedback] there is no address to send it to";
+    NormalMessageBoxFactory::showNote(
+        this, tr("Feedback can't be sent: this version of the program has no address for it."));
+}
+
 {
     switch (type) {
     case PopDlgTyle::OpenMedia:

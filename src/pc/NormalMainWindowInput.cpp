@@ -37,6 +37,8 @@ void NormalMainWindow::slot_hotKey(KeyOperateType type)
             m_overlays->bar()->slot_clickPreview();
     } else if (type == KeyOperate_About)
         slot_aboutAction();
+    else if (type == KeyOperate_SendFeedback)
+        slot_feedbackAction();
     else if (type == KeyOperate_Close)
         slot_closeClicked();
     else if (!m_playMenu->run(type) && m_keyActions && m_control->hasSource())
@@ -65,8 +67,6 @@ void NormalMainWindow::slot_changeVolume(int nCount)
         m_overlays->wake();
 }
 
-void NormalMainWindow::keyPressEvent(QKeyEvent *event)
-{
 bool NormalMainWindow::isKeyOfPart(const QKeyEvent &event) const
 {
     return isPlayViewShown()
@@ -74,13 +74,15 @@ bool NormalMainWindow::isKeyOfPart(const QKeyEvent &event) const
                || (m_overlays->isAwake() && m_overlays->bar()->takesKey(event)));
 }
 
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+void NormalMainWindow::keyPressEvent(QKeyEvent *event)
+{
     // Its operation has run: a key acts once.
     if (AppEventFilter::instance()->isKeySpent()) {
         QWidget::keyPressEvent(event);
         return;
     }
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     if (isPlayViewShown()
         && (m_overlays->playlist()->handleKey(event) || m_overlays->preview()->handleKey(event)))
         return;

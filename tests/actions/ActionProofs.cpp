@@ -5,6 +5,7 @@
 #include "core/SettingsKeys.h"
 #include "dialogs/NormalAboutDLg.h"
 #include "dialogs/NormalColorAdjustDlg.h"
+#include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalVideoControlDlg.h"
 #include "overlays/NormalMetaView.h"
 #include "overlays/PlayOverlays.h"
@@ -17,6 +18,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -271,6 +273,24 @@ QString seenPage(ActionRig &)
     return settingsPage();
 }
 
+// The note that the program has shown last.
+QString &shownNote()
+{
+    static QString text;
+    return text;
+}
+
+bool readNote(QWidget &window)
+{
+    auto *note = qobject_cast<NormalMessageBox *>(&window);
+    if (note == nullptr)
+        return false;
+    for (const QLabel *label : note->findChildren<QLabel *>())
+        shownNote() += label->text();
+    note->close();
+    return true;
+}
+
 } // namespace
 
 std::vector<ActionProof> ActionProofs::ofMenu()
@@ -366,6 +386,11 @@ std::vector<ActionProof> ActionProofs::ofKeysAlone()
     };
     const Read strip = [](ActionRig &rig) { return text(rig.window().overlays()->preview()->isStripOpen()); };
     const Read window = [](ActionRig &rig) { return text(rig.window().isVisible()); };
+    const Read note = [](ActionRig &) {
+        return text(shownNote().contains("this version of the program has no address for it"));
+    };
+    ActionProof feedback = key(KeyOperate_SendFeedback, note, kYes, [](ActionRig &) { shownNote().clear(); });
+    feedback.answer = readNote;
     return {
         key(KeyOperate_Mute, mute, kYes),
         key(KeyOperate_Mute, mute, kNo),
@@ -380,6 +405,7 @@ std::vector<ActionProof> ActionProofs::ofKeysAlone()
         key(KeyOperate_SmartView, strip, kYes),
         key(KeyOperate_SmartView, strip, kNo),
         key(KeyOperate_About, isOpen<NormalAboutDLg>, kYes),
+        feedback,
         key(KeyOperate_Close, window, kNo), // the last one
     };
 }

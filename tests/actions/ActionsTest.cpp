@@ -145,7 +145,6 @@ TEST_F(Actions, EveryRowAndEveryOperationHasItsProof)
     }
     for (const KeyOperateType operation : ActionProofs::operationsOfDiscMenus())
         operations.insert(operation);
-    operations.insert(KeyOperate_SendFeedback); // there is nobody to send it to
     const KeyMap map = KeyMapTables::defaultPcKeyMap();
     for (auto it = map.cbegin(); it != map.cend(); ++it)
         EXPECT_EQ(operations.count(it.key()), 1U) << it.key();

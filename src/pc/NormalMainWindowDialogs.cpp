@@ -11,6 +11,7 @@
 #include "menus/PlayMenu.h"
 #include "overlays/NormalMetaView.h"
 #include "overlays/PlayOverlays.h"
+#include "overlays/PlayedLine.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
@@ -159,7 +160,6 @@ void NormalMainWindow::slot_aboutAction()
     m_dialogs->show(PopDlgTyle::About);
 }
 
-void NormalMainWindow::openDialog(PopDlgTyle type)
 // There is no maker's address in the program, and none is made up.
 void NormalMainWindow::slot_feedbackAction()
 {
@@ -170,6 +170,7 @@ void NormalMainWindow::slot_feedbackAction()
         this, tr("Feedback can't be sent: this version of the program has no address for it."));
 }
 
+void NormalMainWindow::openDialog(PopDlgTyle type)
 {
     switch (type) {
     case PopDlgTyle::OpenMedia:
@@ -209,6 +210,7 @@ void NormalMainWindow::takeSettings(const QStringList &keys)
     if (keys.contains(screenSaver))
         m_settings.value(screenSaver).toBool() ? ScreenSaver::disable() : ScreenSaver::enable();
     m_overlays->metaView()->updateShown();
+    m_overlays->playedLine()->updateShown();
 }
 
 void NormalMainWindow::slot_settingClicked()

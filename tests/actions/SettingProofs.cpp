@@ -46,6 +46,7 @@ std::vector<SettingProof> firstPass(const ActionRig &rig)
         {PC_LogPath, rig.path(QStringLiteral("log"))},
         {PC_AutoPlay, false}, // seen by a disc that comes in: DiscArrivalTest
         {PC_PausePlay, true},
+        {PC_ShowProgress, false},
         {PC_RememberPosition, true},
         {PC_DisableScreenSaver, false},
         {PC_MultipleInstance, true},

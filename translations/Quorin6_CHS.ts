@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>成人</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>无法发送反馈：此版本的程序没有反馈地址。</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>分析硬件</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>设置已生效，但无法写入磁盘：
+%1
+如果在程序结束之前磁盘仍没有可用空间，设置将会丢失。</translation>
     </message>
 </context>
 <context>

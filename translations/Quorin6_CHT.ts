@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>成人</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>無法傳送意見回饋：此版本的程式沒有回饋地址。</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>分析硬體</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>設定已生效，但無法寫入磁碟：
+%1
+如果在程式結束之前磁碟仍沒有可用空間，設定將會遺失。</translation>
     </message>
 </context>
 <context>

@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>Adultos</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>No se pueden enviar comentarios: esta versión del programa no tiene ninguna dirección para ello.</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>Analizar el hardware</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>La configuración se está usando, pero no se pudo escribir en el disco:
+%1
+Se perderá al cerrar el programa, a menos que antes quede espacio libre.</translation>
     </message>
 </context>
 <context>

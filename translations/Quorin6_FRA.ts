@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>Adulte</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>Impossible d&apos;envoyer des commentaires : cette version du programme n&apos;a pas d&apos;adresse pour cela.</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>Analyser le matériel</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>Les paramètres sont appliqués, mais n&apos;ont pas pu être écrits sur le disque :
+%1
+Ils seront perdus à la fermeture du programme, sauf si de la place se libère d&apos;ici là.</translation>
     </message>
 </context>
 <context>

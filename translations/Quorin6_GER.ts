@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>Erwachsene</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>Feedback kann nicht gesendet werden: Diese Version des Programms hat keine Adresse dafür.</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>Hardware analysieren</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>Die Einstellungen gelten, konnten aber nicht auf den Datenträger geschrieben werden:
+%1
+Sie gehen mit dem Ende des Programms verloren, wenn bis dahin kein Platz frei wird.</translation>
     </message>
 </context>
 <context>

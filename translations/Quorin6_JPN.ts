@@ -452,6 +452,10 @@
         <source>Adult</source>
         <translation>アダルト</translation>
     </message>
+    <message>
+        <source>Feedback can&apos;t be sent: this version of the program has no address for it.</source>
+        <translation>フィードバックを送信できません。このバージョンのプログラムには送信先が設定されていません。</translation>
+    </message>
 </context>
 <context>
     <name>NormalMessageBox</name>
@@ -1146,6 +1150,14 @@
     <message>
         <source>Analyze Hardware</source>
         <translation>ハードウェアを分析</translation>
+    </message>
+    <message>
+        <source>The settings are in use, but could not be written to the disk:
+%1
+They will be lost when the program ends, unless there is room until then.</source>
+        <translation>設定は使用中ですが、ディスクに書き込めませんでした:
+%1
+プログラムの終了までに空き容量ができない場合、設定は失われます。</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,8 @@ inline constexpr char PC_ProxyHost[] = "PC_ProxyHost";
 inline constexpr char PC_ProxyPort[] = "PC_ProxyPort";
 inline constexpr char PC_ProxyUserName[] = "PC_ProxyUserName";
 inline constexpr char PC_ProxyPasswd[] = "PC_ProxyPasswd";
+inline constexpr char PC_ProxySystemHost[] = "PC_ProxySystemHost";
+inline constexpr char PC_ProxySystemPort[] = "PC_ProxySystemPort";
 
 // Campaigns
 inline constexpr char PC_2019_ChristmasClicked[] = "PC_2019_ChristmasClicked";

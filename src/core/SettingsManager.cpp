@@ -58,9 +58,9 @@ SettingsManager *SettingsManager::instance()
 
 SettingsManager::SettingsManager(const QString &filePath)
     : m_settings(filePath, QSettings::IniFormat)
+    , m_file(new WholeSettingsFile(m_settings, m_mutex))
     , m_systemLanguage([] { return SystemLanguageId::fromLocale(QLocale::system()); })
 {
-    new WholeSettingsFile(m_settings, m_mutex); // its child
 }
 
 void SettingsManager::setValue(const QString &key, const QVariant &value)
@@ -87,26 +87,24 @@ void SettingsManager::remove(const QString &key)
     m_settings.remove(key);
 }
 
-void SettingsManager::sync()
+bool SettingsManager::sync()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    write();
+    return write();
 }
 
 void SettingsManager::abandon()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_isAbandoned = true;
-    m_settings.findChild<WholeSettingsFile *>()->abandon();
+    m_file->abandon();
 }
 
-void SettingsManager::write()
+bool SettingsManager::write()
 {
-    if (m_isAbandoned)
-        return;
-    if (m_settings.findChild<WholeSettingsFile *>()->sync() || std::exchange(m_hasToldFailure, true))
-        return;
-    qInfo().noquote() << "[Settings] the file cannot be written:" << m_settings.fileName();
+    const bool isWritten = m_file->sync();
+    if (!isWritten && !std::exchange(m_hasToldFailure, true))
+        qInfo().noquote() << "[Settings] the file cannot be written:" << m_settings.fileName();
+    return isWritten;
 }
 
 QString SettingsManager::fileName() const

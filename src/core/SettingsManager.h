@@ -20,6 +20,8 @@
 #include <mutex>
 #include <type_traits>
 
+class WholeSettingsFile;
+
 struct PlayHistoryEntry {
     QString displayText;
     QString path;
@@ -46,7 +48,8 @@ public:
     [[nodiscard]] QVariant value(const QString &key) const;
     [[nodiscard]] bool contains(const QString &key) const;
     void remove(const QString &key);
-    void sync();
+    // False when what is stored can't be written to the disk; it stays in use and is tried again.
+    bool sync();
     // Writes nothing any more, for a process that takes the file away: neither what is pending nor what is
     // set from now on.
     void abandon();
@@ -136,13 +139,13 @@ private:
     void logKeyMap(bool tv, bool saving, const KeyMap &map) const;
     // Under the lock. A file that can't be written is told once; what was to be written is kept and tried
     // again with the next change.
-    void write();
+    bool write();
 
     // QSettings keeps the array it is in as state of the object, so a whole array is read or written under
     // the lock.
     mutable std::mutex m_mutex;
     mutable QSettings m_settings;
+    WholeSettingsFile *m_file; // a child of the settings
     SystemLanguageReader m_systemLanguage;
     bool m_hasToldFailure{false};
-    bool m_isAbandoned{false};
 };

@@ -52,6 +52,8 @@ bool WholeSettingsFile::sync()
 
 bool WholeSettingsFile::write(const std::function<void()> &step)
 {
+    if (m_isAbandoned)
+        return true;
     const QString file = m_settings.fileName();
     const QString before = file + QLatin1String(kBeforeSuffix);
     const bool hasBefore = keep(file, before);
@@ -125,8 +127,6 @@ bool WholeSettingsFile::eventFilter(QObject *watched, QEvent *event)
 void WholeSettingsFile::writeByItself()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_isAbandoned)
-        return;
     (void)write([this] {
         QEvent update(QEvent::UpdateRequest);
         static_cast<QObject &>(m_settings).event(&update);

@@ -28,7 +28,7 @@ public:
     // be written: it is as before, and the next call tries again.
     bool sync();
 
-    // QSettings writes nothing by itself any more, its destruction apart. The mutex is held by the caller.
+    // Nothing is written any more, the destruction of QSettings apart. The mutex is held by the caller.
     void abandon() { m_isAbandoned = true; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -9,6 +9,7 @@
 #include "VideoProtocol.h"
 
 #include "core/SettingsManager.h"
+#include "core/StoredProxy.h"
 
 #include <QDebug>
 #include <QJsonObject>
@@ -99,13 +100,12 @@ void ServerLink::beat()
 
 void ServerLink::applyProxy() const
 {
-    const SettingsManager &settings = m_parts.settings;
-    if (!settings.proxyEnable()) {
+    const StoredProxy proxy = StoredProxy::inUse(m_parts.settings);
+    if (!proxy.isEnabled) {
         m_parts.video.cancelProxy();
         return;
     }
-    m_parts.video.setProxy(
-        {settings.proxyHost(), settings.proxyPort(), settings.proxyUserName(), settings.proxyPasswd()});
+    m_parts.video.setProxy({proxy.host, proxy.port, proxy.userName, proxy.password});
 }
 
 void ServerLink::setReady()

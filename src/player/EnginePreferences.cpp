@@ -6,6 +6,7 @@
 #include "SubtitleCharsets.h"
 
 #include "core/SettingsManager.h"
+#include "core/StoredProxy.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -236,19 +237,19 @@ void EnginePreferences::applyStoredShader()
 
 void EnginePreferences::applyProxy()
 {
-    if (!m_settings.proxyEnable()) {
+    const StoredProxy proxy = StoredProxy::inUse(m_settings);
+    if (!proxy.isEnabled) {
         m_player.setProxy(kNoProxy, {}, 0, {}, {});
         return;
     }
     bool isNumber = false;
-    const QString portText = m_settings.proxyPort();
-    const quint16 port = portText.trimmed().toUShort(&isNumber);
-    if (!isNumber || port == 0 || m_settings.proxyHost().trimmed().isEmpty()) {
-        qInfo().noquote().nospace() << "[Engine config] the proxy has no usable address: "
-                                    << m_settings.proxyHost() << ":" << portText;
+    const quint16 port = proxy.port.trimmed().toUShort(&isNumber);
+    const QString host = proxy.host.trimmed();
+    if (!isNumber || port == 0 || host.isEmpty()) {
+        qInfo().noquote().nospace() << "[Engine config] the proxy has no usable address: " << proxy.host
+                                    << ":" << proxy.port;
         m_player.setProxy(kNoProxy, {}, 0, {}, {});
         return;
     }
-    m_player.setProxy(m_settings.proxyType(), m_settings.proxyHost().trimmed(), port,
-                      m_settings.proxyUserName(), m_settings.proxyPasswd());
+    m_player.setProxy(proxy.type, host, port, proxy.userName, proxy.password);
 }

@@ -9,11 +9,15 @@ struct FlagRow {
     bool fallback;
 };
 
+// What stands for a stored number outside the range.
+enum class Outside { TakesNearest, TakesLeast };
+
 struct NumberRow {
     const char *key;
     int fallback;
     int least;
     int most;
+    Outside outside{Outside::TakesNearest};
 };
 
 struct TextRow {
@@ -34,11 +38,12 @@ inline constexpr float SecondsPerOffsetStep = 0.5F;
 inline constexpr FlagRow Hardware{SettingsKeys::PC_EnableHardware, true};
 inline constexpr FlagRow Hdr{SettingsKeys::PC_EnableHDR, true};
 // The entry behind the named curves leaves the choice to the engine.
-inline constexpr NumberRow SdrMode{SettingsKeys::PC_SDRMode, 4, 0, 31};
+inline constexpr NumberRow SdrMode{SettingsKeys::PC_SDRMode, 4, 0, 4};
 inline constexpr NumberRow SdrValue{SettingsKeys::PC_SDRValue, 50, 0, 100};
 inline constexpr NumberRow HdrMode{SettingsKeys::PC_HDRMode, 0, 0, 1};
 // A screen of a computer shows the whole range.
-inline constexpr NumberRow ColorMode{SettingsKeys::PC_ColorMode, FullRange, 0, 31};
+inline constexpr NumberRow ColorMode{SettingsKeys::PC_ColorMode, FullRange, 0, FullRange,
+                                     Outside::TakesLeast};
 
 // The picture as the menu and its dialogs leave it
 inline constexpr NumberRow Deinterlace{SettingsKeys::PC_Deinterlace, 0, 0, 2}; // off, automatic, on
@@ -69,6 +74,6 @@ inline constexpr TextRow OutLineColor{SettingsKeys::PC_OutLineColor, "#000000"};
 inline constexpr NumberRow SubtitleOffset{SettingsKeys::PC_SubtitleOffset, 0, -20, 20};
 
 // Discs
-inline constexpr NumberRow Region{SettingsKeys::PC_RegionCode, 1, 1, 8};
+inline constexpr NumberRow Region{SettingsKeys::PC_RegionCode, 1, 1, 3}; // A, B, C
 
 } // namespace PreferenceRows

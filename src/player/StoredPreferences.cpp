@@ -1,12 +1,11 @@
 #include "StoredPreferences.h"
 
+#include "PreferenceValues.h"
+
 #include "core/SettingsManager.h"
 #include "core/StoredValue.h"
 
 #include <QDebug>
-#include <QRegularExpression>
-
-#include <optional>
 
 namespace {
 
@@ -46,9 +45,8 @@ int StoredPreferences::number(const NumberRow &row)
     const QVariant value = stored(row.key, row.fallback);
     if (!value.isValid())
         return row.fallback;
-    const std::optional<int> number = StoredValue::number(value);
-    const int taken = number ? qBound(row.least, *number, row.most) : row.fallback;
-    if (number != taken)
+    const int taken = PreferenceValues::number(row, value).value_or(row.fallback);
+    if (StoredValue::number(value) != taken)
         tellUnusable(row.key, value, taken);
     return taken;
 }
@@ -62,10 +60,9 @@ QString StoredPreferences::text(const TextRow &row)
 
 QString StoredPreferences::color(const TextRow &row)
 {
-    static const QRegularExpression form(QStringLiteral("\\A#[0-9a-fA-F]{6}\\z"));
     const QString color = text(row);
-    if (form.match(color).hasMatch())
-        return color;
+    if (const std::optional<QString> taken = PreferenceValues::color(color))
+        return *taken;
     tellUnusable(row.key, color, QLatin1String(row.fallback));
     return QLatin1String(row.fallback);
 }

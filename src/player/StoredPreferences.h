@@ -1,5 +1,5 @@
 // Reads stored preferences by their rows: an absent key gives the row's default, a value that is none of its
-// kind gives the default and a line in the log, a number outside the range its nearest limit.
+// kind gives the default and a line in the log, a number outside the range what the row says.
 //
 // Refers to the settings. Any thread.
 #pragma once

@@ -360,7 +360,7 @@ TEST_F(EnginePreferencesTest, TheRegionGoesToTheEngine)
     set(SettingsKeys::PC_RegionCode, 77);
     preferences.applyRegion();
     EXPECT_THAT(takeCalls(), ElementsAre("IVDPlayTool::setRegion(1)", "IVDPlayTool::setRegion(3)",
-                                         "IVDPlayTool::setRegion(8)"));
+                                         "IVDPlayTool::setRegion(3)"));
 }
 
 TEST_F(EnginePreferencesTest, RubbishInTheRegionLeavesTheRecordAtOne)

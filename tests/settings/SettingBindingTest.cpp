@@ -138,5 +138,11 @@ TEST(SettingBinding, ACodeStandsBetweenStoreAndValue)
     binding.load(*store);
     EXPECT_EQ(binding.value(), true);
     (void)binding.save(*store);
+    EXPECT_EQ(store->value(SettingsKeys::PC_AutoPlay).toInt(), 3) << "nobody has changed it";
+    binding.setValue(false);
+    (void)binding.save(*store);
+    EXPECT_EQ(store->value(SettingsKeys::PC_AutoPlay).toInt(), 0);
+    binding.setValue(true);
+    (void)binding.save(*store);
     EXPECT_EQ(store->value(SettingsKeys::PC_AutoPlay).toInt(), 4);
 }

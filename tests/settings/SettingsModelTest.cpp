@@ -3,6 +3,7 @@
 
 #include "core/CommonInfoManager.h"
 #include "core/SettingsKeys.h"
+#include "core/StoredProxy.h"
 #include "settings/SettingsModel.h"
 #include "support/Eventually.h"
 
@@ -224,19 +225,43 @@ TEST_F(SettingsModelTest, NoProxyKeepsWhatIsStoredOfAManualOne)
     EXPECT_EQ(m_store->proxyHost(), QStringLiteral("old.lan"));
 }
 
-TEST_F(SettingsModelTest, TheSystemsProxyIsStoredAsItStands)
+TEST_F(SettingsModelTest, TheSystemsProxyIsStoredAsItStandsBesideTheManualOne)
 {
+    m_store->setProxyHost(QStringLiteral("old.lan"));
+    m_store->setProxyPort(QStringLiteral("8080"));
+    m_store->setProxyUserName(QStringLiteral("me"));
+    m_store->setProxyPasswd(QStringLiteral("word"));
     SettingsModel model(*m_store, m_host);
     model.load();
     model.setValue(ProxyChoice, int(SystemProxy));
     EXPECT_TRUE(isGood(model));
     (void)model.save();
-    EXPECT_TRUE(m_store->proxyEnable());
-    EXPECT_EQ(m_store->proxyHost(), QStringLiteral("proxy.lan"));
-    EXPECT_EQ(m_store->proxyPort(), QStringLiteral("3128"));
+    const StoredProxy used = StoredProxy::inUse(*m_store);
+    EXPECT_TRUE(used.isEnabled);
+    EXPECT_EQ(used.host, QStringLiteral("proxy.lan"));
+    EXPECT_EQ(used.port, QStringLiteral("3128"));
+    EXPECT_EQ(used.userName, QString());
+    EXPECT_EQ(m_store->proxyHost(), QStringLiteral("old.lan"));
+    EXPECT_EQ(m_store->proxyPort(), QStringLiteral("8080"));
+    EXPECT_EQ(m_store->proxyUserName(), QStringLiteral("me"));
+    EXPECT_EQ(m_store->proxyPasswd(), QStringLiteral("word"));
     SettingsModel again(*m_store, m_host);
     again.load();
     EXPECT_EQ(again.value(ProxyChoice), int(SystemProxy));
+    again.setValue(ProxyChoice, int(ManualProxy));
+    (void)again.save();
+    EXPECT_EQ(StoredProxy::inUse(*m_store).host, QStringLiteral("old.lan"));
+    EXPECT_EQ(StoredProxy::inUse(*m_store).password, QStringLiteral("word"));
+}
+
+TEST_F(SettingsModelTest, ASystemsProxyOfAnEarlierFileIsStillInUse)
+{
+    m_store->setProxyEnable(true);
+    m_store->setProxyType(ProxyOfSystem);
+    m_store->setProxyHost(QStringLiteral("proxy.lan"));
+    m_store->setProxyPort(QStringLiteral("3128"));
+    EXPECT_EQ(StoredProxy::inUse(*m_store).host, QStringLiteral("proxy.lan"));
+    EXPECT_EQ(StoredProxy::inUse(*m_store).port, QStringLiteral("3128"));
 }
 
 TEST_F(SettingsModelTest, AWrongPortIsRefused)

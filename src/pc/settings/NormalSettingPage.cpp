@@ -22,6 +22,7 @@
 #include "keys/AppEventFilter.h"
 #include "ui/LookTokens.h"
 
+#include <QDir>
 #include <QFrame>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -370,4 +371,10 @@ void NormalSettingPage::store()
     if (m_store.language() != languageBefore)
         LanguageManager::instance()->load(m_store.language());
     emit sig_settingsSaved(keys);
+    // The dialog could do no more: they are in use already, and are written as soon as there is room.
+    if (!m_model->isOnDisk() && m_boxes.tell)
+        m_boxes.tell(parentWidget(), tr("The settings are in use, but could not be written to the disk:\n%1\n"
+                                        "They will be lost when the program ends, unless there is room "
+                                        "until then.")
+                                         .arg(QDir::toNativeSeparators(m_store.fileName())));
 }

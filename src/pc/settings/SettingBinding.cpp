@@ -1,6 +1,8 @@
 #include "SettingBinding.h"
 
 #include "core/SettingsManager.h"
+#include "core/StoredValue.h"
+#include "player/PreferenceValues.h"
 
 #include <QColor>
 
@@ -10,14 +12,8 @@ namespace {
 
 QVariant asBool(const QVariant &value)
 {
-    if (value.type() == QVariant::Bool)
-        return value;
-    const QString text = value.toString().trimmed().toLower();
-    if (text == QLatin1String("true") || text == QLatin1String("1"))
-        return true;
-    if (text == QLatin1String("false") || text == QLatin1String("0"))
-        return false;
-    return {};
+    const std::optional<bool> flag = StoredValue::flag(value);
+    return flag ? QVariant(*flag) : QVariant();
 }
 
 QVariant asInt(const QVariant &value)
@@ -107,6 +103,8 @@ void SettingBinding::load(const SettingsManager &store)
     QVariant stored = m_row.isStored ? store.value(key()) : QVariant();
     if (stored.isValid() && m_fromStore)
         stored = m_fromStore(stored);
+    else if (stored.isValid() && m_row.taken)
+        stored = m_row.taken(stored);
     const QVariant taken = stored.isValid() ? accepted(stored) : QVariant();
     setValue(taken.isValid() ? taken : m_row.standard);
     setProblem({});
@@ -119,11 +117,14 @@ void SettingBinding::setDefault()
     setProblem({});
 }
 
-bool SettingBinding::save(SettingsManager &store) const
+bool SettingBinding::save(SettingsManager &store)
 {
     if (!m_row.isStored || m_isKept)
         return false;
-    store.setValue(key(), m_toStore ? m_toStore(m_value) : m_value);
+    // What nobody has changed stays in the words in which it was stored.
+    if (isChanged() || m_isAlwaysWritten || !store.contains(key()))
+        store.setValue(key(), m_toStore ? m_toStore(m_value) : m_value);
+    m_loaded = m_value;
     return true;
 }
 

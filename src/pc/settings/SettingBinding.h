@@ -30,13 +30,16 @@ public:
 
     void load(const SettingsManager &store);
     void setDefault();
-    // Stores the value. False when the key is not to be touched.
-    bool save(SettingsManager &store) const;
+    // Stores the value, unless it is the one that is stored already, in whatever form. False when the key is
+    // not to be touched.
+    bool save(SettingsManager &store);
     // Whether the value is another than the one that load() found or took as the default.
     [[nodiscard]] bool isChanged() const { return m_value != m_loaded; }
 
     // A binding that is kept leaves the store as it is.
     void setKept(bool kept) { m_isKept = kept; }
+    // One whose stored form goes by more than its value is written even if the value is not changed.
+    void setAlwaysWritten(bool always) { m_isAlwaysWritten = always; }
     // For a value that is stored in another form than it is shown in.
     void setCode(Code fromStore, Code toStore);
 
@@ -59,6 +62,7 @@ private:
     QVariant m_loaded;
     QString m_problem;
     bool m_isKept{false};
+    bool m_isAlwaysWritten{false};
     Code m_fromStore;
     Code m_toStore;
 };

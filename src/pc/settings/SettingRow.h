@@ -83,6 +83,9 @@ struct SettingRow {
     // A heading that stands above the row.
     const char *head{nullptr};
     FolderNeed folder{FolderNeed::None};
+    // A stored value as the program takes it, invalid for one that it can't use; for rows where that is not
+    // just a value that the control can show.
+    std::function<QVariant(const QVariant &)> taken{};
     // The number of a slider as the user reads it.
     std::function<QString(int)> valueText{};
 

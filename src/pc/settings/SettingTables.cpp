@@ -4,11 +4,13 @@
 #include "core/SettingsDefaults.h"
 #include "core/SettingsKeys.h"
 #include "player/PreferenceRows.h"
+#include "player/PreferenceValues.h"
 #include "player/SubtitleCharsets.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <optional>
 
 namespace SettingTables {
 
@@ -44,9 +46,30 @@ SettingRow onOff(const FlagRow &row, const char *text, SaveStep step)
     return onOff(row.key, text, step, row.fallback);
 }
 
+std::function<QVariant(const QVariant &)> takenNumber(const NumberRow &row)
+{
+    return [row](const QVariant &stored) {
+        const std::optional<int> number = PreferenceValues::number(row, stored);
+        return number ? QVariant(*number) : QVariant();
+    };
+}
+
+QVariant takenColor(const QVariant &stored)
+{
+    const std::optional<QString> color = PreferenceValues::color(stored);
+    return color ? QVariant(*color) : QVariant();
+}
+
 SettingRow choice(const char *key, const char *text, SaveStep step, QVariant standard, Choices choices)
 {
     return {key, SettingControl::Choice, text, step, std::move(standard), std::move(choices)};
+}
+
+SettingRow choice(const NumberRow &row, const char *text, SaveStep step, Choices choices)
+{
+    SettingRow made = choice(row.key, text, step, row.fallback, std::move(choices));
+    made.taken = takenNumber(row);
+    return made;
 }
 
 SettingRow radio(const char *key, const char *text, SaveStep step, QVariant standard, Choices choices)
@@ -67,7 +90,9 @@ SettingRow slider(const char *key, const char *text, SaveStep step, int standard
 SettingRow slider(const NumberRow &row, const char *text, SaveStep step,
                   std::function<QString(int)> valueText = {})
 {
-    return slider(row.key, text, step, row.fallback, row.least, row.most, std::move(valueText));
+    SettingRow made = slider(row.key, text, step, row.fallback, row.least, row.most, std::move(valueText));
+    made.taken = takenNumber(row);
+    return made;
 }
 
 SettingRow folder(const char *key, const char *text, SaveStep step, const QString &standard, FolderNeed need)
@@ -81,6 +106,13 @@ SettingRow plain(const char *key, SettingControl control, const char *text, Save
                  const QString &standard = QStringLiteral(""))
 {
     return {key, control, text, step, standard};
+}
+
+SettingRow color(const TextRow &row, const char *text, SaveStep step)
+{
+    SettingRow made = plain(row.key, SettingControl::Color, text, step, QString::fromLatin1(row.fallback));
+    made.taken = takenColor;
+    return made;
 }
 
 SettingRow hidden(const char *key, SaveStep step, QVariant standard)
@@ -166,7 +198,7 @@ constexpr char RememberLast[] = QT_TRANSLATE_NOOP("NormalSettingPage", "Always r
 std::vector<SettingRow> generalRows(const SettingsFacts &facts)
 {
     constexpr auto step = SaveStep::General;
-    std::vector<SettingRow> table{
+    return {
         choice(PC_Language, QT_TRANSLATE_NOOP("NormalSettingPage", "UI Language"), step, facts.systemLanguage,
                interfaceLanguages()),
         choice(launchModeVersion6, QT_TRANSLATE_NOOP("NormalSettingPage", "Launch Mode"), step, 1,
@@ -182,6 +214,8 @@ std::vector<SettingRow> generalRows(const SettingsFacts &facts)
         onOff(PC_AutoPlay, QT_TRANSLATE_NOOP("NormalSettingPage", "Auto play when disc inserted"), step,
               true),
         onOff(PC_PausePlay, QT_TRANSLATE_NOOP("NormalSettingPage", "Pause play when minimized"), step, false),
+        onOff(PC_ShowProgress, QT_TRANSLATE_NOOP("NormalSettingPage", "Show progress in taskbar"), step,
+              true),
         onOff(PC_RememberPosition,
               QT_TRANSLATE_NOOP("NormalSettingPage", "Remember the last playback position"), step, false),
         onOff(PC_DisableScreenSaver, QT_TRANSLATE_NOOP("NormalSettingPage", "Disable Screensaver"), step,
@@ -191,12 +225,6 @@ std::vector<SettingRow> generalRows(const SettingsFacts &facts)
         onOff(PC_CheckUpdate, QT_TRANSLATE_NOOP("NormalSettingPage", "Check for new version automatically"),
               step, SettingsDefaults::PC_CheckUpdate),
     };
-    if (facts.isWindows) {
-        table.insert(table.begin() + 6,
-                     onOff(PC_ShowProgress,
-                           QT_TRANSLATE_NOOP("NormalSettingPage", "Show progress in taskbar"), step, true));
-    }
-    return table;
 }
 
 std::vector<SettingRow> playbackRows()
@@ -236,12 +264,10 @@ std::vector<SettingRow> videoRows()
                     QT_TRANSLATE_NOOP("NormalSettingPage", "Enable Hardware Acceleration Decoding"), step)),
         under(QT_TRANSLATE_NOOP("NormalSettingPage", "HDR"),
               onOff(PreferenceRows::Hdr, QT_TRANSLATE_NOOP("NormalSettingPage", "Enable HDR"), step)),
-        choice(PC_HDRMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Mode"), step,
-               PreferenceRows::HdrMode.fallback,
+        choice(PreferenceRows::HdrMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Mode"), step,
                {{QT_TRANSLATE_NOOP("NormalSettingPage", "Auto"), 0},
                 {QT_TRANSLATE_NOOP("NormalSettingPage", "Force HDR->SDR"), 1}}),
-        choice(PC_SDRMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Tone map"), step,
-               PreferenceRows::SdrMode.fallback,
+        choice(PreferenceRows::SdrMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Tone map"), step,
                {{QT_TRANSLATE_NOOP("NormalSettingPage", "Simple"), 0},
                 {QT_TRANSLATE_NOOP("NormalSettingPage", "Hable"), 1},
                 {QT_TRANSLATE_NOOP("NormalSettingPage", "Filmic"), 2},
@@ -250,8 +276,8 @@ std::vector<SettingRow> videoRows()
         slider(PreferenceRows::SdrValue, QT_TRANSLATE_NOOP("NormalSettingPage", "Luminance Scale:"), step,
                percent),
         under(QT_TRANSLATE_NOOP("NormalSettingPage", "Output"),
-              choice(PC_ColorMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Output Color Range "), step,
-                     PreferenceRows::ColorMode.fallback,
+              choice(PreferenceRows::ColorMode, QT_TRANSLATE_NOOP("NormalSettingPage", "Output Color Range "),
+                     step,
                      {{QT_TRANSLATE_NOOP("NormalSettingPage", "Full Color Range (0-255)"),
                        PreferenceRows::FullRange},
                       {QT_TRANSLATE_NOOP("NormalSettingPage", "Limited Color Range (16-235)"), 0}})),
@@ -296,8 +322,7 @@ std::vector<SettingRow> audioRows()
         plain(PC_DefaultAudioDeviceName, SettingControl::Device,
               QT_TRANSLATE_NOOP("NormalSettingPage", "Output Device"), step),
         choice(
-            PC_Speaker, QT_TRANSLATE_NOOP("NormalSettingPage", "Speaker"), step,
-            PreferenceRows::Speaker.fallback,
+            PreferenceRows::Speaker, QT_TRANSLATE_NOOP("NormalSettingPage", "Speaker"), step,
             {{"", 0, QStringLiteral("2.0")}, {"", 1, QStringLiteral("5.1")}, {"", 2, QStringLiteral("7.1")}}),
         under(QT_TRANSLATE_NOOP("NormalSettingPage", "Passthrough"),
               onOff(PC_PassThrough, QT_TRANSLATE_NOOP("NormalSettingPage", "Enable Audio Passthrough"), step,
@@ -330,10 +355,8 @@ std::vector<SettingRow> subtitleRows()
                  QString::fromLatin1(PreferenceRows::TopPosition)},
                 {QT_TRANSLATE_NOOP("NormalSettingPage", "Bottom"),
                  QString::fromLatin1(PreferenceRows::FontPosition.fallback)}}),
-        plain(PC_FontColor, SettingControl::Color, QT_TRANSLATE_NOOP("NormalSettingPage", "Color"), step,
-              QString::fromLatin1(PreferenceRows::FontColor.fallback)),
-        plain(PC_OutLineColor, SettingControl::Color, QT_TRANSLATE_NOOP("NormalSettingPage", "OutLine Color"),
-              step, QString::fromLatin1(PreferenceRows::OutLineColor.fallback)),
+        color(PreferenceRows::FontColor, QT_TRANSLATE_NOOP("NormalSettingPage", "Color"), step),
+        color(PreferenceRows::OutLineColor, QT_TRANSLATE_NOOP("NormalSettingPage", "OutLine Color"), step),
         onOff(PreferenceRows::Bold, QT_TRANSLATE_NOOP("NormalSettingPage", "Bold"), step),
         onOff(PreferenceRows::Italic, QT_TRANSLATE_NOOP("NormalSettingPage", "Italic"), step),
         onOff(PreferenceRows::OutLine, QT_TRANSLATE_NOOP("NormalSettingPage", "Outline"), step),
@@ -346,15 +369,22 @@ std::vector<SettingRow> subtitleRows()
     };
 }
 
+SettingRow region(SaveStep step)
+{
+    SettingRow row = radio(PC_RegionCode, QT_TRANSLATE_NOOP("NormalSettingPage", "Region"), step,
+                           PreferenceRows::Region.fallback,
+                           {{QT_TRANSLATE_NOOP("NormalSettingPage", "Region A"), 1},
+                            {QT_TRANSLATE_NOOP("NormalSettingPage", "Region B"), 2},
+                            {QT_TRANSLATE_NOOP("NormalSettingPage", "Region C"), 3}});
+    row.taken = takenNumber(PreferenceRows::Region);
+    return row;
+}
+
 std::vector<SettingRow> bluRayRows()
 {
     constexpr auto step = SaveStep::BluRay;
     return {
-        radio(PC_RegionCode, QT_TRANSLATE_NOOP("NormalSettingPage", "Region"), step,
-              PreferenceRows::Region.fallback,
-              {{QT_TRANSLATE_NOOP("NormalSettingPage", "Region A"), 1},
-               {QT_TRANSLATE_NOOP("NormalSettingPage", "Region B"), 2},
-               {QT_TRANSLATE_NOOP("NormalSettingPage", "Region C"), 3}}),
+        region(step),
         onOff(PC_EnableBD,
               QT_TRANSLATE_NOOP("NormalSettingPage", "Enable Blu-ray 3D playback when in Simple Mode"), step,
               true),

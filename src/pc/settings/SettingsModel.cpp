@@ -3,6 +3,9 @@
 #include "core/CommonInfoManager.h"
 #include "core/SettingsKeys.h"
 #include "core/SettingsManager.h"
+#include "core/StoredProxy.h"
+#include "player/PreferenceRows.h"
+#include "player/PreferenceValues.h"
 #include "player/SubtitleCharsets.h"
 
 #include <QDebug>
@@ -45,9 +48,8 @@ void SettingsModel::makeRules()
     binding(SettingsKeys::PC_PassThrough)
         ->setCode(
             [](const QVariant &stored) {
-                bool isNumber = false;
-                const int number = stored.toInt(&isNumber);
-                return QVariant(isNumber ? number != 0 : stored.toBool());
+                const auto &row = PreferenceRows::PassThrough;
+                return QVariant(PreferenceValues::number(row, stored).value_or(row.fallback) != 0);
             },
             [this](const QVariant &isOn) {
                 return isOn.toBool() ? value(OutputMode) : QVariant(int(OutputNone));
@@ -58,8 +60,10 @@ void SettingsModel::makeRules()
     if (m_facts.isWindows7) {
         const auto off = [](const QVariant &) { return QVariant(false); };
         for (const char *key :
-             {SettingsKeys::PC_3DEngine, SettingsKeys::PC_PlayIn3D, SettingsKeys::PC_ConvertTo3D})
+             {SettingsKeys::PC_3DEngine, SettingsKeys::PC_PlayIn3D, SettingsKeys::PC_ConvertTo3D}) {
             binding(key)->setCode(off, off);
+            binding(key)->setAlwaysWritten(true);
+        }
     }
     SettingBinding *associate = binding(SettingsKeys::EnableFileAssociation);
     connect(associate, &SettingBinding::valueChanged, m_associations,
@@ -137,6 +141,7 @@ void SettingsModel::loadDerived()
     if (m_store.contains(name->key()))
         name->load(m_store);
     takeDeviceOfMode();
+    m_loadedMode = value(OutputMode).toInt();
 
     int choice = NoProxy;
     if (m_store.proxyEnable())
@@ -239,10 +244,14 @@ QStringList SettingsModel::save()
     const bool isKept = !allowsPassThrough();
     binding(SettingsKeys::PC_PassThrough)->setKept(isKept);
     binding(SettingsKeys::PC_PassThroughButtonEnable)->setKept(isKept);
+    // It is stored as the mode that it goes out by.
+    const int mode = value(OutputMode).toInt();
+    binding(SettingsKeys::PC_PassThrough)->setAlwaysWritten(mode != m_loadedMode);
+    m_loadedMode = mode;
     QStringList written;
     for (int step = 0; step < SaveStepCount; ++step)
         saveStep(SaveStep(step), written);
-    m_store.sync();
+    m_isOnDisk = m_store.sync();
     applyToEngine();
     if (m_store.value(SettingsKeys::PC_EnableAdultContent).toBool() != hadAdult)
         emit adultLibraryChanged();
@@ -255,7 +264,7 @@ void SettingsModel::saveStep(SaveStep step, QStringList &written)
         saveProxy(written);
         return;
     }
-    for (const SettingBinding *each : bindings(pageOf(step))) {
+    for (SettingBinding *each : bindings(pageOf(step))) {
         if (each->row().step == step && each->save(m_store))
             written.append(each->key());
     }
@@ -285,13 +294,10 @@ void SettingsModel::saveProxy(QStringList &written)
         break;
     case SystemProxy: {
         const SettingsProxy proxy = m_host.systemProxy();
-        m_store.setProxyEnable(true);
-        m_store.setProxyType(ProxyOfSystem);
-        m_store.setProxyHost(proxy.host);
-        m_store.setProxyPort(proxy.port);
-        m_store.setProxyUserName({});
-        m_store.setProxyPasswd({});
-        break;
+        StoredProxy::chooseSystem(m_store, proxy.host, proxy.port);
+        written << SettingsKeys::PC_ProxyType << SettingsKeys::PC_ProxySystemHost
+                << SettingsKeys::PC_ProxySystemPort;
+        return;
     }
     case ManualProxy:
         m_store.setProxyEnable(true);

@@ -53,6 +53,8 @@ public:
 
     // Stores everything and tells the host. The keys in the order in which they were written.
     QStringList save();
+    // Whether the last save reached the disk; what did not is in use all the same.
+    [[nodiscard]] bool isOnDisk() const { return m_isOnDisk; }
 
     // ---- rules between settings
 
@@ -92,4 +94,6 @@ private:
     FolderProbe *m_folders;
     QHash<int, SettingBinding *> m_questions;
     QList<SettingsAudioDevice> m_devices;
+    bool m_isOnDisk{true};
+    int m_loadedMode{SettingTables::OutputNone};
 };

@@ -18,7 +18,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -285,8 +284,7 @@ bool readNote(QWidget &window)
     auto *note = qobject_cast<NormalMessageBox *>(&window);
     if (note == nullptr)
         return false;
-    for (const QLabel *label : note->findChildren<QLabel *>())
-        shownNote() += label->text();
+    shownNote() = note->accessibleDescription();
     note->close();
     return true;
 }

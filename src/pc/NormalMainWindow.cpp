@@ -327,7 +327,7 @@ void NormalMainWindow::slot_configLater()
 {
     m_setUp->start();
     m_overlays->playlist()->queue()->load();
-    m_session->open();
+    m_session->open(winId());
     for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})
         noteBehaviour(QLatin1String(event), QStringLiteral("true"));
 }

@@ -11,7 +11,6 @@
 #include "menus/PlayMenu.h"
 #include "overlays/NormalMetaView.h"
 #include "overlays/PlayOverlays.h"
-#include "overlays/PlayedLine.h"
 
 #include "core/ApplicationInfoManager.h"
 #include "core/CommonInfoManager.h"
@@ -210,7 +209,7 @@ void NormalMainWindow::takeSettings(const QStringList &keys)
     if (keys.contains(screenSaver))
         m_settings.value(screenSaver).toBool() ? ScreenSaver::disable() : ScreenSaver::enable();
     m_overlays->metaView()->updateShown();
-    m_overlays->playedLine()->updateShown();
+    m_session->showProgress();
 }
 
 void NormalMainWindow::slot_settingClicked()

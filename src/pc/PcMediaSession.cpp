@@ -3,6 +3,8 @@
 #include "transport/VolumeControl.h"
 
 #include "core/ApplicationInfoManager.h"
+#include "core/SettingsKeys.h"
+#include "core/SettingsManager.h"
 
 #include <QDebug>
 #include <QFile>
@@ -27,8 +29,9 @@ PcMediaSession::PcMediaSession(VolumeControl &volume, QObject *parent)
 
 PcMediaSession::~PcMediaSession() = default;
 
-void PcMediaSession::open()
+void PcMediaSession::open(WId window)
 {
+    m_taskbar.open(ApplicationInfoManager::desktopName(), window);
     m_session.open(ApplicationInfoManager::productName(), ApplicationInfoManager::desktopName());
     m_session.setVolume(double(m_volume.volume()));
 }
@@ -132,6 +135,17 @@ void PcMediaSession::showStatus(QPlayer::QPlayerStatus status)
         m_session.setCanSeek(false);
         break;
     }
+    showProgress();
+}
+
+void PcMediaSession::showProgress()
+{
+    const bool isWanted =
+        SettingsManager::instance()->valueOr(QLatin1String(SettingsKeys::PC_ShowProgress), true);
+    if (isWanted && isLoaded() && m_totalSeconds > 0)
+        m_taskbar.show(double(m_seconds) / m_totalSeconds, m_session.state() == MediaSession::State::Paused);
+    else
+        m_taskbar.hide();
 }
 
 void PcMediaSession::showTime(int seconds, int totalSeconds)
@@ -147,4 +161,5 @@ void PcMediaSession::showTime(int seconds, int totalSeconds)
     m_session.setPositionMs(seconds * kMsPerSecond);
     if (jumped)
         m_session.announceSeek(seconds * kMsPerSecond);
+    showProgress();
 }

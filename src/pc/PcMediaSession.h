@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/MediaSession.h"
+#include "platform/TaskbarProgress.h"
 #include "player/QPlayer.h"
 
 #include <QObject>
@@ -22,12 +23,14 @@ public:
     ~PcMediaSession() override;
 
     // Makes the session known to the desktop.
-    void open();
+    void open(WId window);
     void connectPlayer(QPlayer *player);
 
     void beginSource(const QString &displayName, const QString &path);
     void setCover(const QImage &cover);
     void setFullScreen(bool fullScreen);
+    // The progress in the taskbar, as the settings want it now.
+    void showProgress();
     [[nodiscard]] const MediaSession &session() const { return m_session; }
 
 signals:
@@ -47,6 +50,7 @@ private:
     [[nodiscard]] bool isLoaded() const { return m_session.state() != MediaSession::State::Stopped; }
 
     MediaSession m_session;
+    TaskbarProgress m_taskbar;
     VolumeControl &m_volume;
     QPlayer *m_player{nullptr};
     MediaSession::Metadata m_metadata;

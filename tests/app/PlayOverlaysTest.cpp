@@ -8,7 +8,6 @@
 #include "overlays/NormalMetaView.h"
 #include "overlays/NormalTitleBar.h"
 #include "overlays/NormalTopBar.h"
-#include "overlays/PlayedLine.h"
 #include "pc/NormalAudioView.h"
 #include "pc/NormalMainWindow.h"
 #include "pc/NormalPlayControl.h"
@@ -84,25 +83,6 @@ TEST_F(PlayOverlaysTest, TheBarComesWithTheSourceAndGoesWhenTheMouseRests)
     m_window->SLOT_haveMouseMove();
     EXPECT_TRUE(m_overlays->isAwake());
     EXPECT_EQ(m_window->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(PlayOverlaysTest, TheProgressStaysInViewWhileTheBarsRest)
-{
-    play(makeFile("film.mkv"));
-    PlayedLine *line = m_overlays->playedLine();
-    line->setTime(30, 120);
-    EXPECT_FALSE(line->isWanted());
-    m_window->SLOT_mouseMoveStop();
-    EXPECT_TRUE(line->isWanted());
-    ASSERT_TRUE(QTest::qWaitFor([line] { return line->isVisible(); }, Patience));
-    const QRect picture(m_window->mapToGlobal({0, 0}), m_window->size());
-    EXPECT_EQ(line->geometry().bottom(), picture.bottom());
-    EXPECT_EQ(line->width(), picture.width());
-    m_window->SLOT_haveMouseMove();
-    EXPECT_FALSE(line->isWanted());
-    m_window->slot_hotKey(KeyOperate_Stop);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window->isPlayViewShown(); }, Patience));
-    EXPECT_FALSE(line->isWanted());
 }
 
 TEST_F(PlayOverlaysTest, TheBarStaysWhileThePointerIsOnIt)

@@ -1,4 +1,5 @@
 #include "platform/MediaSession.h"
+#include "platform/TaskbarProgress.h"
 
 #include "support/Sanitizers.h"
 
@@ -45,7 +46,15 @@ class Receiver final : public QObject {
 public:
     QVariantMap changes;
     QList<qlonglong> seeks;
+    QStringList updates; // "0.25", or "none"
 public slots:
+    void onUpdate(const QString &application, const QVariantMap &facts)
+    {
+        EXPECT_EQ(application, "application://quorin-test.desktop");
+        updates << (facts.value("progress-visible").toBool()
+                        ? QString::number(facts.value("progress").toDouble())
+                        : QStringLiteral("none"));
+    }
     void onChanged(const QString &, const QVariantMap &map, const QStringList &)
     {
         for (auto it = map.begin(); it != map.end(); ++it)
@@ -208,6 +217,29 @@ TEST_F(MediaSessionTest, NextAndPreviousActOnlyWhereThereIsOne)
     call(Player, "Previous");
     EXPECT_EQ(next.count(), 1);
     EXPECT_EQ(previous.count(), 1);
+}
+
+TEST_F(MediaSessionTest, TheDockIsToldOfProgressThatCanBeSeenAlone)
+{
+    Receiver receiver;
+    ASSERT_TRUE(s_client->connect({}, {}, "com.canonical.Unity.LauncherEntry", "Update", &receiver,
+                                  SLOT(onUpdate(QString, QVariantMap))));
+    EXPECT_FALSE(property("PlaybackStatus").toString().isEmpty());
+    {
+        TaskbarProgress progress;
+        progress.show(0.9, false); // to nobody yet
+        progress.open("quorin-test", 0);
+        progress.hide(); // nothing is shown
+        progress.show(0.25, false);
+        progress.show(0.2501, false);
+        progress.show(0.5, false);
+        progress.show(7, false);
+        progress.hide();
+        progress.show(0, false);
+    }
+    const QStringList expected{"0.25", "0.5", "1", "none", "0", "none"};
+    ASSERT_TRUE(QTest::qWaitFor([&] { return receiver.updates.size() >= expected.size(); }));
+    EXPECT_EQ(receiver.updates, expected);
 }
 
 #include "MediaSessionTest.moc"

@@ -6,7 +6,6 @@
 #include "NormalTitleBar.h"
 #include "NormalTopBar.h"
 #include "NormalTvshowAutoPlayLabel.h"
-#include "PlayedLine.h"
 #include "transport/NormalOperateBar.h"
 #include "transport/NormalPlaySpeedBar.h"
 #include "transport/VolumeControl.h"
@@ -72,7 +71,6 @@ PlayOverlays::PlayOverlays(QWidget *window, QWidget *area, INextEpisodeSource *e
     , m_topBar(new NormalTopBar(window))
     , m_meta(new NormalMetaView(window))
     , m_tip(new NormalTipLabel(window))
-    , m_line(new PlayedLine(window))
     , m_speed(new NormalPlaySpeedBar(window))
     , m_lastPosition(new NormalLastPositionLabel(window))
     , m_nextEpisode(new NormalTvshowAutoPlayLabel(episodes, window))
@@ -112,7 +110,6 @@ void PlayOverlays::place()
         OverlayRule rule;
     } rows[] = {
         {m_bar, {Anchor::Bottom, {}, BarLevel}},
-        {m_line, {Anchor::Bottom, {}, InformationLevel}},
         {m_topBar, {Anchor::Top, {}, BarLevel}},
         {m_speed, {Anchor::TopLeft, {kSide, kUnderTitle, kSide, 0}, InformationLevel}},
         {m_meta, {Anchor::TopLeft, {kSide, kUnderSpeed, kSide, 0}, InformationLevel}},
@@ -143,7 +140,6 @@ void PlayOverlays::connectPlayer(QPlayer *player)
 {
     connect(player, &QPlayer::sig_playStatusChanged, m_bar, &NormalOperateBar::slot_setUiByStatus);
     connect(player, &QPlayer::sig_timeChanged, m_bar, &NormalOperateBar::slot_setTimeInfo);
-    connect(player, &QPlayer::sig_timeChanged, m_line, &PlayedLine::setTime);
     connect(player, &QPlayer::sig_playStatusChanged, m_playlist, &NormalPlaylistView::slot_setPlayStatus);
     connect(player, &QPlayer::sig_playMetaChanged, m_playlist, &NormalPlaylistView::slot_setMetaInfo);
     connect(player, &QPlayer::sig_timeChanged, m_preview, &SmartPreview::slot_setTimeInfo);
@@ -172,7 +168,6 @@ void PlayOverlays::beginSource(const QString &displayName, const QString &path)
     m_hasSource = true;
     m_bar->reset(displayName);
     m_bar->slot_setTimeInfo(0, 0);
-    m_line->setTime(0, 0);
     m_meta->setDisplayName(displayName);
     m_speed->disappear();
     m_preview->endSource();
@@ -200,7 +195,6 @@ void PlayOverlays::endSource()
     m_nextEpisode->slot_hideLabel();
     m_meta->clear();
     m_bar->reset({});
-    m_line->setResting(false);
     m_host->hideAll();
 }
 
@@ -226,7 +220,6 @@ void PlayOverlays::wake()
     m_wakeTimer.stop();
     if (!m_hasSource)
         return;
-    m_line->setResting(false);
     m_bar->appear();
     m_topBar->appear();
     m_playlistSwitch->appear();
@@ -245,7 +238,6 @@ bool PlayOverlays::rest()
     m_bar->disappear();
     m_topBar->disappear();
     m_playlistSwitch->disappear();
-    m_line->setResting(true);
     return true;
 }
 

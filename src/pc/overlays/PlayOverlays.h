@@ -21,7 +21,6 @@ class NormalTopBar;
 class NormalTvshowAutoPlayLabel;
 class OverlayHost;
 class OverlayWidget;
-class PlayedLine;
 class QPlayer;
 class QWidget;
 class SmartPreview;
@@ -46,8 +45,6 @@ public:
 
     [[nodiscard]] SmartPreview *preview() const { return m_preview; }
     [[nodiscard]] NormalPlaylistView *playlist() const { return m_playlist; }
-
-    [[nodiscard]] PlayedLine *playedLine() const { return m_line; }
 
     // A source is on its way.
     void beginSource(const QString &displayName, const QString &path);
@@ -87,7 +84,6 @@ private:
     NormalTopBar *m_topBar;
     NormalMetaView *m_meta;
     NormalTipLabel *m_tip;
-    PlayedLine *m_line;
     NormalPlaySpeedBar *m_speed;
     NormalLastPositionLabel *m_lastPosition;
     NormalTvshowAutoPlayLabel *m_nextEpisode;

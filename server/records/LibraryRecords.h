@@ -9,6 +9,9 @@
 #include <QStringList>
 #include <QVector>
 
+// What a user takes out of the library: the record alone, or a file that was deleted from disk.
+enum class Removal { FromLibrary, WithFile };
+
 struct MovieRecord {
     int idFile{0};
     QString title;

@@ -113,7 +113,8 @@ RpcReply MusicRemovalMethods::remove(const QVector<int> &ids, bool withFiles)
     }
     if (leaving.isEmpty() && failure.isEmpty())
         return RpcReply::failed(QStringLiteral("there are no such songs"));
-    if (!leaving.isEmpty() && !m_music.removeSongs(leaving))
+    const Removal removal = withFiles ? Removal::WithFile : Removal::FromLibrary;
+    if (!leaving.isEmpty() && !m_music.removeSongs(leaving, removal))
         failure = QStringLiteral("the songs could not be taken out of the library");
     return RpcReply::changed(Keys::deleted, failure.isEmpty(), failure);
 }

@@ -69,12 +69,13 @@ RpcReply VideoChangeMethods::remove(const Params &params)
     const QStringList files = m_videos.filesOf(id);
     if (files.isEmpty())
         return RpcReply::failed(QStringLiteral("there is no item with this idFile: %1").arg(id));
-    if (params.flag(Keys::deleteFile)) {
+    const bool withFile = params.flag(Keys::deleteFile);
+    if (withFile) {
         const QString failure = m_remover.remove(m_roots.videoLibraryId(), files);
         if (!failure.isEmpty())
             return RpcReply::failed(failure);
     }
-    const bool removed = m_videos.remove(id);
+    const bool removed = m_videos.remove(id, withFile ? Removal::WithFile : Removal::FromLibrary);
     if (removed)
         qInfo() << "[delete] taken out of the video library:" << files.first();
     return RpcReply::changed(Keys::deleted, removed,

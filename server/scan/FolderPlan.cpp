@@ -2,6 +2,8 @@
 
 #include "names/DiscStructure.h"
 #include "names/ExtraName.h"
+#include "names/MoviePart.h"
+#include "sidecars/FolderPath.h"
 
 #include <QCryptographicHash>
 
@@ -10,7 +12,7 @@
 namespace {
 
 // Raised when folders are read in another way, so that all are read again.
-constexpr char Version[] = "1";
+constexpr char Version[] = "2";
 constexpr const char *sidecarBegins[] = {"tvshow",     "season", "movie",  "album",   "artist",    "poster",
                                          "folder",     "cover",  "show",   "default", "fanart",    "backdrop",
                                          "background", "art",    "banner", "thumb",   "landscape", "jacket"};
@@ -46,6 +48,21 @@ void add(QCryptographicHash &hash, const FolderEntry &entry)
     hash.addData(reinterpret_cast<const char *>(numbers), int(sizeof numbers));
 }
 
+// "Disc 2" hangs on "Disc 1" beside it. That folder's time tells that something in it came or went.
+void addFirstPart(QCryptographicHash &hash, const WalkedFolder &folder)
+{
+    const MoviePart part = MoviePart::parse(FolderPath::nameOf(folder.path));
+    if (part.number < 2)
+        return;
+    for (const FolderEntry &entry : folder.parent->entries) {
+        const MoviePart other = entry.isFolder ? MoviePart::parse(entry.name) : MoviePart();
+        if (other.number != 1 || other.stem.compare(part.stem, Qt::CaseInsensitive) != 0)
+            continue;
+        add(hash, entry);
+        hash.addData(reinterpret_cast<const char *>(&entry.stamp.modifiedMs), int(sizeof(qint64)));
+    }
+}
+
 } // namespace
 
 QByteArray FolderPlan::fingerprint(const WalkedFolder &folder, const QByteArray &kind)
@@ -53,8 +70,10 @@ QByteArray FolderPlan::fingerprint(const WalkedFolder &folder, const QByteArray 
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(Version, int(sizeof Version));
     hash.addData(kind);
-    if (folder.parent)
+    if (folder.parent) {
         hash.addData(folder.parent->sidecars);
+        addFirstPart(hash, folder);
+    }
     for (const FolderEntry &entry : folder.entries)
         add(hash, entry);
     return hash.result().toHex();

@@ -19,7 +19,8 @@ public:
     {
     }
 
-    // Names, sizes and times of all that is listed, and the sidecars above.
+    // Names, sizes and times of all that is listed, the sidecars above, and for a later part of a film the
+    // folder of its first.
     [[nodiscard]] static QByteArray fingerprint(const WalkedFolder &folder, const QByteArray &kind = {});
     // Of the sidecars in the folder that tell about what lies below it, and of those above.
     [[nodiscard]] static QByteArray sidecarDigest(const WalkedFolder &folder);
@@ -34,7 +35,7 @@ public:
 
 private:
     QHash<QString, QByteArray> m_known;
-    const QByteArray m_kind;
+    QByteArray m_kind;
     QSet<QString> m_seen;
     QStringList m_unreadable;
 };

@@ -44,11 +44,22 @@ bool RootScan::visit(const std::shared_ptr<const WalkedFolder> &folder)
         m_isOffline = true;
         return false;
     }
+    if (!folder->parent && m_startsAnew)
+        empty();
     ++m_counts.folders;
     QByteArray fingerprint;
     if (m_plan.take(*folder, fingerprint) && !read(folder, fingerprint))
         return false;
     return handOn(false);
+}
+
+void RootScan::empty()
+{
+    if (m_store.clearForRebuild(m_root.pathId))
+        qInfo().noquote() << "[scan]" << m_root.path << "was emptied and is built anew";
+    else
+        qWarning().noquote() << "[scan]" << m_root.path << "could not be emptied";
+    m_plan = FolderPlan(m_store.fingerprints(m_root.pathId), m_reader.kind());
 }
 
 bool RootScan::read(const std::shared_ptr<const WalkedFolder> &folder, const QByteArray &fingerprint)

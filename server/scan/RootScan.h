@@ -30,12 +30,15 @@ public:
     RootScan(const RootFolder &root, bool isMusic, IScanStore &store, const IFolderReader &reader,
              ProbePool &pool, const std::atomic<bool> &cancelled);
 
+    // The scan empties the library folder once it is found reachable and not suddenly empty.
+    void startAnew() { m_startsAnew = true; }
     // enter: see FolderWalk. count: called with each folder.
     Result run(const FolderWalk::Enter &enter, const std::function<void(const ScanCounts &)> &count);
     [[nodiscard]] const ScanCounts &counts() const { return m_counts; }
 
 private:
     bool visit(const std::shared_ptr<const WalkedFolder> &folder);
+    void empty();
     bool read(const std::shared_ptr<const WalkedFolder> &folder, const QByteArray &fingerprint);
     // Hands on what is done, from the front; with all, waits for it.
     bool handOn(bool all);
@@ -52,5 +55,6 @@ private:
     ScanBatch m_batch;
     std::deque<std::shared_ptr<FolderWork>> m_pending;
     ScanCounts m_counts;
+    bool m_startsAnew{false};
     bool m_isOffline{false};
 };

@@ -44,16 +44,18 @@ void Scanner::cancelRunning()
     m_pool.wake();
 }
 
-void Scanner::enqueue(const QVector<Target> &targets)
+void Scanner::enqueue(const QVector<Target> &targets, bool isRebuild)
 {
     for (const Target &target : targets) {
         const auto waiting = std::find_if(m_queue.begin(), m_queue.end(), [&](const Job &job) {
-            return !job.isClear && job.target.root.pathId == target.root.pathId;
+            return job.target.root.pathId == target.root.pathId;
         });
-        if (waiting == m_queue.end())
-            m_queue.push_back({false, target});
-        else
+        if (waiting == m_queue.end()) {
+            m_queue.push_back({target, isRebuild});
+        } else {
             waiting->target = target;
+            waiting->isRebuild |= isRebuild;
+        }
     }
 }
 
@@ -61,7 +63,7 @@ void Scanner::scan(const QVector<Target> &targets)
 {
     {
         std::lock_guard lock(m_mutex);
-        enqueue(targets);
+        enqueue(targets, false);
     }
     m_wake.notify_all();
 }
@@ -71,8 +73,7 @@ void Scanner::rebuild(const QVector<Target> &targets)
     {
         std::lock_guard lock(m_mutex);
         m_queue.clear();
-        m_queue.push_back({true, {}});
-        enqueue(targets);
+        enqueue(targets, true);
         if (m_isBusy)
             cancelRunning();
     }
@@ -88,9 +89,7 @@ void Scanner::keepOnly(const QSet<int> &pathIds)
 {
     std::lock_guard lock(m_mutex);
     m_queue.erase(std::remove_if(m_queue.begin(), m_queue.end(),
-                                 [&](const Job &job) {
-                                     return !job.isClear && !pathIds.contains(job.target.root.pathId);
-                                 }),
+                                 [&](const Job &job) { return !pathIds.contains(job.target.root.pathId); }),
                   m_queue.end());
     if (m_runningPath != -1 && !pathIds.contains(m_runningPath))
         cancelRunning();
@@ -113,10 +112,7 @@ void Scanner::run()
     Job job;
     while (takeJob(job)) {
         try {
-            if (job.isClear)
-                clearStore();
-            else
-                scanRoot(job.target);
+            scanRoot(job);
         } catch (const std::exception &error) {
             qCritical().noquote() << "[scan]" << job.target.root.path << "ended by:" << error.what();
             m_pool.clear();
@@ -140,7 +136,7 @@ bool Scanner::takeJob(Job &job)
     job = m_queue.front();
     m_queue.pop_front();
     m_isBusy = true;
-    m_runningPath = job.isClear ? -1 : job.target.root.pathId;
+    m_runningPath = job.target.root.pathId;
     m_counts = {};
     *m_cancelled = false;
     return true;
@@ -153,19 +149,14 @@ const IFolderReader &Scanner::readerOf(const Target &target) const
     return target.root.scraperType == QLatin1String(AdultScraper) ? *m_readers.adult : *m_readers.video;
 }
 
-void Scanner::clearStore()
+void Scanner::scanRoot(const Job &job)
 {
-    if (m_store.clearForRebuild())
-        qInfo() << "[scan] the library was emptied and is built anew";
-    else
-        qWarning() << "[scan] the library could not be emptied";
-}
-
-void Scanner::scanRoot(const Target &target)
-{
+    const Target &target = job.target;
     QElapsedTimer timer;
     timer.start();
     RootScan scan(target.root, target.isMusic, m_store, readerOf(target), m_pool, *m_cancelled);
+    if (job.isRebuild)
+        scan.startAnew();
     const RootScan::Result result = scan.run(m_enter, [this](const ScanCounts &counts) {
         std::lock_guard lock(m_mutex);
         m_counts = counts;

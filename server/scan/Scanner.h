@@ -41,7 +41,8 @@ public:
     // One that waits already is not queued twice and is read as it is now; one that is being scanned is
     // scanned again when that has ended.
     void scan(const QVector<Target> &targets);
-    // Cancels everything, empties what scans can find again, and scans these.
+    // Cancels everything, then scans these as if nothing were known of them. One that cannot be reached, or
+    // is suddenly empty, keeps what it held.
     void rebuild(const QVector<Target> &targets);
     // What runs is ended at its next file, what waits is let go.
     void cancel();
@@ -60,17 +61,16 @@ signals:
 
 private:
     struct Job {
-        bool isClear{false};
         Target target;
+        bool isRebuild{false};
     };
 
     void run();
     bool takeJob(Job &job);
     [[nodiscard]] const IFolderReader &readerOf(const Target &target) const;
-    void clearStore();
-    void scanRoot(const Target &target);
+    void scanRoot(const Job &job);
     // With the lock held.
-    void enqueue(const QVector<Target> &targets);
+    void enqueue(const QVector<Target> &targets, bool isRebuild);
     void cancelRunning();
 
     ILibraryRoots &m_roots;

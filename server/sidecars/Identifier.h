@@ -10,7 +10,11 @@
 // with a tvshow.nfo, or the parent of a season's folder, is the show's. Without such a folder the show is the
 // one that the names tell; its key is then the folder, or a path below it that ends in the series' title
 // where one folder holds several series. The season of a daily show is the year and its number MMDD. A dated
-// file without a show's folder counts only with the name of a series in front of the date.
+// file without a show's folder counts only with the name of a series in front of the date, and never when the
+// name is a camera's or tells of home life.
+//
+// Versions and parts are shown, and deleted, as one item: files of one episode are that only when their names
+// are the same but for words of a release or the mark of a part.
 //
 // Extras and samples are left out; a disc's folder is one item. wantsMetadata is true for films and episodes
 // of which only the name spoke. Takes n log n time for a folder of n files. Keeps no state but the reader;

@@ -3,6 +3,7 @@
 #include "Connection.h"
 #include "Counters.h"
 #include "MovedFiles.h"
+#include "RemovedFiles.h"
 
 #include <QHash>
 #include <QSet>
@@ -51,9 +52,13 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
     }
     QVector<int> ids;
     ids.reserve(files.size());
-    const bool anyRemoved = FileTable::hasRemoved(m_connection);
+    const bool anyRemoved = RemovedFiles::any(m_connection);
+    if (anyRemoved && !RemovedFiles::forgetUnseen(m_connection, m_table, folders, files)) {
+        m_failed = true;
+        return {};
+    }
     for (const FileRow &file : files) {
-        ids << (anyRemoved && FileTable::isRemoved(m_connection, file)
+        ids << (anyRemoved && RemovedFiles::holds(m_connection, file)
                     ? kRefused
                     : m_table.idAt(m_connection, file.path, file.track));
     }

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool isFailed() const { return m_failed; }
     // Whether the id was given by match(), so that no row has it yet.
     [[nodiscard]] bool isNew(int id) const { return id >= m_firstNew; }
+    // Rows that are hidden since their files have left the folders.
+    [[nodiscard]] const QVector<FileRow> &lost() const { return m_lost; }
     // Rows that are to be taken into older ones before the files are written.
     [[nodiscard]] QVector<Move> earlierMoves() const { return m_earlier; }
     // Rows of the files that left which are to take the place of newer rows.

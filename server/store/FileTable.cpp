@@ -3,7 +3,10 @@
 #include "Connection.h"
 #include "Containers.h"
 #include "ContentKey.h"
+#include "RemovedFiles.h"
 #include "StoredJson.h"
+
+#include <QFileInfo>
 
 namespace {
 
@@ -21,9 +24,11 @@ QString bare(const QString &folder)
 
 } // namespace
 
-QString FileRow::nameOf(const QString &realPath)
+QString FileRow::nameOf(const QString &path, const QString &realPath)
 {
-    return realPath.mid(realPath.lastIndexOf(QLatin1Char('/')) + 1);
+    const QLatin1Char slash('/');
+    const bool isDisc = !realPath.isEmpty() && realPath != path;
+    return isDisc ? path.section(slash, -2, -2) : path.section(slash, -1);
 }
 
 FileTable::FileTable(const QString &name, const QString &track, const QString &realPath,
@@ -71,7 +76,7 @@ FileRow FileTable::read(const Statement &statement)
     row.added = statement.number(7);
     row.seen = statement.number(8);
     row.missing = statement.number(9) != 0;
-    row.name = FileRow::nameOf(statement.text(10));
+    row.name = FileRow::nameOf(row.path, statement.text(10));
     return row;
 }
 
@@ -176,19 +181,11 @@ bool FileTable::hideRoot(Connection &connection, int root, qint64 now) const
     return hide(connection, below(connection, root), now, &containers) && containers.refresh(connection);
 }
 
-bool FileTable::hideAll(Connection &connection, qint64 now) const
+bool FileTable::clearRoot(Connection &connection, int root, qint64 now) const
 {
-    QVector<FileRow> present;
-    {
-        Statement statement = connection.prepare(m_select + QStringLiteral("WHERE missing_since = 0"));
-        if (!statement.run())
-            return false;
-        present = readAll(&statement);
-    }
-    Containers containers;
-    return hide(connection, present, now, &containers)
-           && connection.execute(QStringLiteral("UPDATE %1 SET scanned = ''").arg(m_name))
-           && containers.refresh(connection);
+    return hideRoot(connection, root, now)
+           && connection.prepare(QStringLiteral("UPDATE %1 SET scanned = '' WHERE root = ?").arg(m_name))
+                  .run(root);
 }
 
 bool FileTable::moveToRoot(Connection &connection, int from, int to, const QString &folder) const
@@ -210,37 +207,12 @@ bool FileTable::dropMissing(Connection &connection, int root, qint64 before) con
         .run(before, root);
 }
 
-bool FileTable::remove(Connection &connection, const FileRow &row, Containers *containers) const
+bool FileTable::remove(Connection &connection, const FileRow &row, Removal removal,
+                       Containers *containers) const
 {
+    // Of a sheet with several tracks the file stays as long as one of them does.
+    const bool isGone = removal == Removal::WithFile && !QFileInfo::exists(row.path);
     return noteContainers(connection, row.id, containers)
-           && connection
-                  .prepare(
-                      QStringLiteral("INSERT INTO removed (path, track, size, modified) VALUES (?, ?, ?, ?) "
-                                     "ON CONFLICT (path, track) DO UPDATE "
-                                     "SET size = excluded.size, modified = excluded.modified"))
-                  .run(row.path, row.track, row.stamp.size, row.stamp.modifiedMs)
+           && (isGone || RemovedFiles::add(connection, *this, row))
            && connection.prepare(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(m_name)).run(row.id);
-}
-
-bool FileTable::hasRemoved(Connection &connection)
-{
-    Statement read = connection.prepare(QStringLiteral("SELECT 1 FROM removed LIMIT 1"));
-    return read.run() && read.next();
-}
-
-bool FileTable::isRemoved(Connection &connection, const FileRow &file)
-{
-    FileStamp stamp;
-    {
-        Statement statement = connection.prepare(
-            QStringLiteral("SELECT size, modified FROM removed WHERE path = ? AND track = ?"));
-        if (!statement.run(file.path, file.track) || !statement.next())
-            return false;
-        stamp = {statement.number(0), statement.number(1)};
-    }
-    if (stamp == file.stamp)
-        return true;
-    connection.prepare(QStringLiteral("DELETE FROM removed WHERE path = ? AND track = ?"))
-        .run(file.path, file.track);
-    return false;
 }

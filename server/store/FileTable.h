@@ -2,6 +2,7 @@
 // missing. A missing file's row is hidden and kept. All operations run within a transaction of the writer.
 #pragma once
 
+#include "records/LibraryRecords.h"
 #include "records/ScanRecords.h"
 
 #include <QString>
@@ -16,7 +17,7 @@ struct FileRow {
     int id{0};
     QString folder;
     QString path;
-    QString name; // of the file, or of the folder of a disc
+    QString name; // of the file, or of the folder that holds a disc
     QString suffix;
     int track{-1};
     FileStamp stamp;
@@ -25,7 +26,8 @@ struct FileRow {
     bool missing{false};
     QString content; // ContentKey, filled in only where files look alike
 
-    [[nodiscard]] static QString nameOf(const QString &realPath);
+    // A disc's path on the wire is not that of what stands on disk, which is called alike for all discs.
+    [[nodiscard]] static QString nameOf(const QString &path, const QString &realPath);
 };
 
 class FileTable final {
@@ -52,19 +54,17 @@ public:
     [[nodiscard]] bool hide(Connection &connection, const QVector<FileRow> &rows, qint64 now,
                             Containers *containers) const;
     [[nodiscard]] bool hideRoot(Connection &connection, int root, qint64 now) const;
-    // Hides everything and forgets what was scanned of it, so that it is read again.
-    [[nodiscard]] bool hideAll(Connection &connection, qint64 now) const;
+    // Hides all of the root and forgets what was scanned of it, so that it is read again.
+    [[nodiscard]] bool clearRoot(Connection &connection, int root, qint64 now) const;
     // What lies below the folder belongs to the other root from now on.
     [[nodiscard]] bool moveToRoot(Connection &connection, int from, int to, const QString &folder) const;
     // Rows of the root, and of roots that are no more, that were missing before the time.
     [[nodiscard]] bool dropMissing(Connection &connection, int root, qint64 before) const;
 
-    // Takes the row out for good; the file stays out as long as it does not change.
-    [[nodiscard]] bool remove(Connection &connection, const FileRow &row, Containers *containers) const;
+    // Takes the row out for good. A file that stays on disk stays out as long as it does not change.
+    [[nodiscard]] bool remove(Connection &connection, const FileRow &row, Removal removal,
+                              Containers *containers) const;
     [[nodiscard]] FileRow row(Connection &connection, int id) const;
-    [[nodiscard]] static bool hasRemoved(Connection &connection);
-    // Whether a user took the unchanged file out. One that has changed is forgotten and may come again.
-    [[nodiscard]] static bool isRemoved(Connection &connection, const FileRow &file);
 
 private:
     FileTable(const QString &name, const QString &track, const QString &realPath,

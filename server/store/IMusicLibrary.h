@@ -47,5 +47,5 @@ public:
     [[nodiscard]] virtual QVector<int> songIdsOfArtist(const QString &artist) const = 0;
     [[nodiscard]] virtual QVector<int> songIdsOfGenre(const QString &genre) const = 0;
     // Takes the songs out of the library; they stay out as long as their files are unchanged.
-    virtual bool removeSongs(const QVector<int> &ids) = 0;
+    virtual bool removeSongs(const QVector<int> &ids, Removal removal) = 0;
 };

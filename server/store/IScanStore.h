@@ -31,6 +31,7 @@ public:
     // and collections and albums without contents too.
     virtual void finishScan(int pathId) = 0;
 
-    // Empties all that scans can find again and keeps what a user made.
-    virtual bool clearForRebuild() = 0;
+    // Empties all of a library folder that a scan of it finds again and keeps what a user made. Its folders
+    // stay known, under no fingerprint, so that a mount point that lost its disk is not taken for empty.
+    virtual bool clearForRebuild(int pathId) = 0;
 };

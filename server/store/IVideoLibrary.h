@@ -30,7 +30,7 @@ public:
     // What stands on disk for an item, all its parts and versions included; empty for an unknown id.
     [[nodiscard]] virtual QStringList filesOf(int idFile) const = 0;
     // Takes the item out of the library. It stays out in later scans as long as its file is unchanged.
-    virtual bool remove(int idFile) = 0;
+    virtual bool remove(int idFile, Removal removal) = 0;
 
     // What is known of an item for the providers and for searches without one.
     [[nodiscard]] virtual ScannedVideo scanned(int idFile) const = 0;

@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr int kVideoLibrary = 1;
-constexpr int kMusicLibrary = 2;
-
 const RowTable<RootFolder> &rootTable()
 {
     static const RowTable<RootFolder> table(QStringLiteral("roots"),

@@ -8,6 +8,9 @@ class Database;
 
 class LibraryRoots final : public ILibraryRoots {
 public:
+    static constexpr int kVideoLibrary = 1;
+    static constexpr int kMusicLibrary = 2;
+
     explicit LibraryRoots(const Database &database);
 
     [[nodiscard]] int videoLibraryId() const override;

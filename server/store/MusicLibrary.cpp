@@ -212,7 +212,7 @@ QVector<int> MusicLibrary::songIdsOfGenre(const QString &genre) const
     return m_lists.genreIds(genre);
 }
 
-bool MusicLibrary::removeSongs(const QVector<int> &ids)
+bool MusicLibrary::removeSongs(const QVector<int> &ids, Removal removal)
 {
     bool allKnown = true;
     const bool stored = m_database.write(Urgency::User, [&](Connection &connection) {
@@ -221,7 +221,7 @@ bool MusicLibrary::removeSongs(const QVector<int> &ids)
             const FileRow row = FileTable::songs().row(connection, id);
             if (row.id == 0)
                 allKnown = false;
-            else if (!FileTable::songs().remove(connection, row, writer.containers()))
+            else if (!FileTable::songs().remove(connection, row, removal, writer.containers()))
                 return false;
         }
         return writer.finish();

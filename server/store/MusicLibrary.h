@@ -45,7 +45,7 @@ public:
     [[nodiscard]] QVector<int> songIdsOfArtist(const QString &artist) const override;
     [[nodiscard]] QVector<int> songIdsOfGenre(const QString &genre) const override;
     // False when one of them was not there; the others are gone then all the same.
-    bool removeSongs(const QVector<int> &ids) override;
+    bool removeSongs(const QVector<int> &ids, Removal removal) override;
 
 private:
     const Database &m_database;

@@ -132,12 +132,14 @@ void ScanStore::finishScan(int pathId)
     });
 }
 
-bool ScanStore::clearForRebuild()
+bool ScanStore::clearForRebuild(int pathId)
 {
     return m_database.write(Database::Urgency::User, [&](Connection &connection) {
         const qint64 now = m_database.now();
-        return ShowTable::forgetProvided(connection) && FileTable::videos().hideAll(connection, now)
-               && FileTable::songs().hideAll(connection, now)
-               && connection.execute(QStringLiteral("DELETE FROM folders"));
+        return ShowTable::forgetProvided(connection, pathId)
+               && FileTable::videos().clearRoot(connection, pathId, now)
+               && FileTable::songs().clearRoot(connection, pathId, now)
+               && connection.prepare(QStringLiteral("UPDATE folders SET fingerprint = '' WHERE root = ?"))
+                      .run(pathId);
     });
 }

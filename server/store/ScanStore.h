@@ -17,7 +17,7 @@ public:
     // Refused for a folder that is offline: what cannot be reached is not gone.
     bool forgetFolders(int pathId, const QStringList &folders) override;
     void finishScan(int pathId) override;
-    bool clearForRebuild() override;
+    bool clearForRebuild(int pathId) override;
 
 private:
     const Database &m_database;

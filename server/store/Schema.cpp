@@ -136,9 +136,16 @@ Migration artwork()
              index("playlists", "poster")}};
 }
 
+// Which library a file was taken out of; 0 for those from before.
+Migration removedFiles()
+{
+    return {QStringLiteral("libraries of removed files"),
+            {QStringLiteral("ALTER TABLE removed ADD COLUMN library INTEGER NOT NULL DEFAULT 0")}};
+}
+
 } // namespace
 
 QVector<Migration> Schema::steps()
 {
-    return {libraries(), video(), music(), artwork()};
+    return {libraries(), video(), music(), artwork(), removedFiles()};
 }

@@ -9,6 +9,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 // Shows that no folder stands for have a key that no path looks like.
@@ -151,9 +154,14 @@ bool ShowTable::ensureSeason(Connection &connection, int showId, int number)
     return row.id > 0 || write(connection, &row);
 }
 
-bool ShowTable::forgetProvided(Connection &connection)
+bool ShowTable::forgetProvided(Connection &connection, int root)
 {
-    return connection.execute(QStringLiteral("UPDATE shows SET provided = '', tried = 0"))
-           && connection.execute(QStringLiteral("UPDATE seasons SET provided = ''"))
-           && connection.execute(QStringLiteral("UPDATE items SET provided = '', tried = 0"));
+    const char *const statements[] = {
+        "UPDATE shows SET provided = '', tried = 0 WHERE id IN (SELECT show_id FROM items WHERE root = ?)",
+        "UPDATE seasons SET provided = '' WHERE show_id IN (SELECT show_id FROM items WHERE root = ?)",
+        "UPDATE items SET provided = '', tried = 0 WHERE root = ?",
+    };
+    return std::all_of(std::begin(statements), std::end(statements), [&](const char *statement) {
+        return connection.prepare(QString::fromLatin1(statement)).run(root);
+    });
 }

@@ -19,7 +19,7 @@ namespace ShowTable {
 [[nodiscard]] bool describe(Connection &connection, int id, const Description &description,
                             const QMap<int, Description> &seasons);
 [[nodiscard]] bool ensureSeason(Connection &connection, int showId, int number);
-// Forgets what providers said, so that they are asked again.
-[[nodiscard]] bool forgetProvided(Connection &connection);
+// Forgets what providers said of the root's videos and shows, so that they are asked again.
+[[nodiscard]] bool forgetProvided(Connection &connection, int root);
 
 } // namespace ShowTable

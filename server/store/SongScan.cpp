@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 #include "ContentKey.h"
+#include "RemovedFiles.h"
 #include "StoredJson.h"
 
 #include <QDebug>
@@ -32,7 +33,7 @@ bool SongScan::store(const QVector<ScannedFolder> &folders)
             FileRow file;
             file.folder = folder.path;
             file.path = song.path;
-            file.name = FileRow::nameOf(song.path);
+            file.name = FileRow::nameOf(song.path, song.path);
             file.suffix = song.suffix;
             file.track = song.track;
             file.stamp = song.stamp;
@@ -109,5 +110,6 @@ bool SongScan::forget(int root, const QStringList &folders)
             return false;
         lost << rows;
     }
-    return replace(m_matcher.lateMoves(lost)) && m_writer.finish();
+    return RemovedFiles::forgetBelow(m_connection, FileTable::songs(), root, folders)
+           && replace(m_matcher.lateMoves(lost)) && m_writer.finish();
 }

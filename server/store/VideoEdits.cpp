@@ -68,7 +68,7 @@ VideoEdits::VideoEdits(const Database &database)
 {
 }
 
-bool VideoEdits::remove(int idFile) const
+bool VideoEdits::remove(int idFile, Removal removal) const
 {
     return m_database.write(Urgency::User, [&](Connection &connection) {
         const FileTable &files = FileTable::videos();
@@ -82,7 +82,7 @@ bool VideoEdits::remove(int idFile) const
             rows << files.row(connection, version.id);
         VideoWriter writer(connection);
         for (const FileRow &row : rows) {
-            if (!files.remove(connection, row, writer.containers()))
+            if (!files.remove(connection, row, removal, writer.containers()))
                 return false;
         }
         return writer.finish();

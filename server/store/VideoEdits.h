@@ -10,7 +10,7 @@ class VideoEdits final {
 public:
     explicit VideoEdits(const Database &database);
 
-    bool remove(int idFile) const;
+    bool remove(int idFile, Removal removal) const;
     bool matchMovie(int idFile, const Description &description, const QString &collection) const;
     bool matchEpisode(int idFile, const Description &show, const Description &episode, int season,
                       int number) const;

@@ -84,9 +84,9 @@ QStringList VideoLibrary::filesOf(int idFile) const
     return files;
 }
 
-bool VideoLibrary::remove(int idFile)
+bool VideoLibrary::remove(int idFile, Removal removal)
 {
-    return m_edits.remove(idFile);
+    return m_edits.remove(idFile, removal);
 }
 
 ScannedVideo VideoLibrary::scanned(int idFile) const

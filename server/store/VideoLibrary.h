@@ -29,7 +29,7 @@ public:
     [[nodiscard]] QVector<int> years(Role role) const override;
 
     [[nodiscard]] QStringList filesOf(int idFile) const override;
-    bool remove(int idFile) override;
+    bool remove(int idFile, Removal removal) override;
 
     [[nodiscard]] ScannedVideo scanned(int idFile) const override;
     bool matchMovie(int idFile, const Description &description, const QString &collection) override;

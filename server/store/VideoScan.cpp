@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 #include "ContentKey.h"
+#include "RemovedFiles.h"
 #include "ShowTable.h"
 #include "StoredJson.h"
 
@@ -16,6 +17,7 @@ VideoScan::VideoScan(Connection &connection, qint64 now)
     , m_now(now)
     , m_matcher(connection, FileTable::videos(), now)
     , m_writer(connection)
+    , m_heirs(connection, m_writer)
 {
 }
 
@@ -39,7 +41,7 @@ bool VideoScan::store(const QVector<ScannedFolder> &folders)
             FileRow file;
             file.folder = folder.path;
             file.path = video.path;
-            file.name = FileRow::nameOf(video.realPath.isEmpty() ? video.path : video.realPath);
+            file.name = FileRow::nameOf(video.path, video.realPath);
             file.suffix = QFileInfo(video.path).suffix().toLower();
             file.stamp = video.stamp;
             files << file;
@@ -49,14 +51,14 @@ bool VideoScan::store(const QVector<ScannedFolder> &folders)
     const QVector<int> ids = m_matcher.match(
         folders, files, [&found](int index) { return ContentKey::ofVideo(*found.at(index).video); },
         m_writer.containers());
-    if (m_matcher.isFailed() || !replace(m_matcher.earlierMoves()))
+    if (m_matcher.isFailed() || !m_heirs.note(m_matcher.lost()) || !replace(m_matcher.earlierMoves()))
         return false;
     for (int index = 0; index < found.size(); ++index) {
         found[index].id = ids.at(index);
         if (ids.at(index) != FileMatcher::kRefused && !write(found.at(index), files.at(index)))
             return false;
     }
-    return setLeads(found) && replace(m_matcher.lateMoves()) && m_writer.finish();
+    return setLeads(found) && replace(m_matcher.lateMoves()) && m_heirs.settle() && m_writer.finish();
 }
 
 bool VideoScan::write(const Found &found, const FileRow &file)
@@ -67,6 +69,8 @@ bool VideoScan::write(const Found &found, const FileRow &file)
         row.added = m_now;
     }
     const ScannedVideo &video = *found.video;
+    if (video.leadPath.isEmpty() && row.path == file.path && row.matched.isEmpty())
+        row.matched = m_heirs.matchedBefore(row);
     row.root = found.root;
     row.folder = file.folder;
     row.path = file.path;
@@ -104,6 +108,8 @@ bool VideoScan::setLead(const Found &version)
         std::swap(row.matched, lead.matched);
         if (!m_writer.write(&lead))
             return false;
+    } else if (row.matched == lead.matched) {
+        row.matched.clear();
     }
     row.leadId = lead.leadId > 0 ? lead.leadId : lead.id;
     return row.leadId == row.id || m_writer.write(&row);
@@ -147,5 +153,6 @@ bool VideoScan::forget(int root, const QStringList &folders)
             return false;
         lost << rows;
     }
-    return replace(m_matcher.lateMoves(lost)) && m_writer.finish();
+    return RemovedFiles::forgetBelow(m_connection, FileTable::videos(), root, folders) && m_heirs.note(lost)
+           && replace(m_matcher.lateMoves(lost)) && m_heirs.settle() && m_writer.finish();
 }

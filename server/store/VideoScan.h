@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FileMatcher.h"
+#include "LeadHeirs.h"
 #include "VideoWriter.h"
 
 #include "records/ScanRecords.h"
@@ -29,4 +30,5 @@ private:
     qint64 m_now;
     FileMatcher m_matcher;
     VideoWriter m_writer;
+    LeadHeirs m_heirs;
 };

@@ -86,6 +86,47 @@ TEST_F(ChangesOnDiskTest, AFilmThatIsMovedKeepsItsId)
     EXPECT_EQ(m_manager->videos().count(VideoCache::Movies), 8);
 }
 
+TEST_F(ChangesOnDiskTest, ADiscWhoseFolderIsRenamedKeepsItsId)
+{
+    const QString id = idOf(VideoCache::Movies, "Eta");
+    ASSERT_TRUE(m_tree.rename("films/Eta (2007)", "films/discs/New Disc (2017)"));
+    scan();
+    load(LibraryRole::Movies);
+    EXPECT_EQ(idOf(VideoCache::Movies, "New Disc"), id);
+    EXPECT_EQ(m_manager->videos().item(VideoCache::Movies, id).year, "2017");
+    EXPECT_EQ(m_manager->videos().count(VideoCache::Movies), 8);
+}
+
+TEST_F(ChangesOnDiskTest, ADiscThatComesBeforeAnotherIsJoinedWithIt)
+{
+    m_tree.text("films/Twins (2012)/Disc 2/VIDEO_TS/VIDEO_TS.IFO", "second");
+    scan();
+    load(LibraryRole::Movies);
+    const QString second = idOf(VideoCache::Movies, "Twins");
+    m_tree.text("films/Twins (2012)/Disc 1/VIDEO_TS/VIDEO_TS.IFO", "first");
+    scan();
+    load(LibraryRole::Movies);
+    const QString first = idOf(VideoCache::Movies, "Twins");
+    EXPECT_NE(first, second);
+    ASSERT_TRUE(QDir(m_tree.full("films/Twins (2012)/Disc 1")).removeRecursively());
+    scan();
+    load(LibraryRole::Movies);
+    EXPECT_EQ(idOf(VideoCache::Movies, "Twins"), second);
+}
+
+TEST_F(ChangesOnDiskTest, ARebuildKeepsWhatAnAbsentFolderHeld)
+{
+    const QStringList songs = m_manager->music().songs();
+    ASSERT_TRUE(m_tree.rename("music", "unplugged/music"));
+    m_manager->startLibraryRebuild();
+    ASSERT_TRUE(waitByHeartbeats([this] { return m_server.log().contains("built anew"); }));
+    waitForScanEnd();
+    loadAll();
+    EXPECT_EQ(m_manager->music().songs(), songs);
+    EXPECT_EQ(m_manager->videos().count(VideoCache::Movies), 8);
+    ASSERT_TRUE(m_tree.rename("unplugged/music", "music"));
+}
+
 TEST_F(ChangesOnDiskTest, WhatIsDeletedLeavesTheLists)
 {
     ASSERT_TRUE(QFile::remove(m_tree.full("music/Other/Second/a.flac")));

@@ -63,5 +63,5 @@ public:
     QVector<int> songIdsOfAlbum(int) const override { return {}; }
     QVector<int> songIdsOfArtist(const QString &) const override { return {}; }
     QVector<int> songIdsOfGenre(const QString &) const override { return {}; }
-    bool removeSongs(const QVector<int> &) override { return false; }
+    bool removeSongs(const QVector<int> &, Removal) override { return false; }
 };

@@ -60,7 +60,7 @@ public:
     QStringList countries(Role) const override { return {}; }
     QVector<int> years(Role) const override { return {}; }
     QStringList filesOf(int) const override { return {}; }
-    bool remove(int) override { return false; }
+    bool remove(int, Removal) override { return false; }
     ScannedVideo scanned(int idFile) const override { return items.value(idFile); }
     bool matchMovie(int idFile, const Description &description, const QString &collection) override;
     bool matchEpisode(int idFile, const Description &show, const Description &told, int number,

@@ -128,7 +128,7 @@ struct FakeVideos final : IVideoLibrary {
     QStringList countries(Role) const override { return {QStringLiteral("France")}; }
     QVector<int> years(Role) const override { return {2015, 2016}; }
     QStringList filesOf(int idFile) const override { return files.value(idFile); }
-    bool remove(int idFile) override
+    bool remove(int idFile, Removal) override
     {
         removed.append(idFile);
         return true;
@@ -246,7 +246,7 @@ struct FakeMusic final : IMusicLibrary {
         return found;
     }
     QVector<int> songIdsOfGenre(const QString &) const override { return ids(); }
-    bool removeSongs(const QVector<int> &ids) override
+    bool removeSongs(const QVector<int> &ids, Removal) override
     {
         removed += ids;
         const auto gone = [&](const SongRecord &song) { return ids.contains(song.idFile); };

@@ -49,10 +49,16 @@ void FakeStore::finishScan(int)
     ++m_finished;
 }
 
-bool FakeStore::clearForRebuild()
+bool FakeStore::clearForRebuild(int pathId)
 {
     std::lock_guard lock(m_mutex);
-    m_folders.clear();
+    for (auto &[place, folder] : m_folders) {
+        if (place.first != pathId)
+            continue;
+        folder.fingerprint.clear();
+        folder.songs.clear();
+        folder.videos.clear();
+    }
     ++m_clears;
     return true;
 }

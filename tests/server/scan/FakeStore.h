@@ -21,7 +21,7 @@ public:
     bool store(const QVector<ScannedFolder> &folders) override;
     bool forgetFolders(int pathId, const QStringList &folders) override;
     void finishScan(int pathId) override;
-    bool clearForRebuild() override;
+    bool clearForRebuild(int pathId) override;
 
     int videoLibraryId() const override { return VideoLibrary; }
     int musicLibraryId() const override { return MusicLibrary; }

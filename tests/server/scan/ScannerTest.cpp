@@ -202,13 +202,48 @@ TEST_F(ScannerTest, RebuildsFromNothing)
     m_bench.sound("A/one.mp3");
     m_bench.scanMusic();
     (void)m_bench.reader->takeOpened();
+    m_bench.sound("A/stuck.mp3");
     m_bench.finished = 0;
     m_bench.scanner->rebuild(m_bench.music());
+    ASSERT_EVENTUALLY(m_bench.reader->held() == 1);
     EXPECT_FALSE(m_bench.scanner->isIdle());
+    m_bench.reader->release();
     ASSERT_TRUE(m_bench.waitForEnd());
     EXPECT_EQ(m_store.clears(), 1);
-    EXPECT_EQ(m_bench.reader->takeOpened().size(), 1);
-    EXPECT_EQ(m_store.songs().size(), 1);
+    EXPECT_EQ(m_bench.reader->takeOpened().size(), 2);
+    EXPECT_EQ(m_store.songs().size(), 2);
+}
+
+TEST_F(ScannerTest, ARebuildKeepsAllOfARootThatIsNotThere)
+{
+    m_bench.sound("A/one.mp3");
+    m_bench.scanMusic();
+    const QString root = m_bench.root();
+    ASSERT_TRUE(QDir().rename(root, root + "-gone"));
+    const auto rebuild = [this] {
+        m_bench.finished = 0;
+        m_bench.scanner->rebuild(m_bench.music());
+        ASSERT_TRUE(m_bench.waitForEnd());
+        EXPECT_EQ(m_bench.lastResult, RootScan::Result::Offline);
+        EXPECT_EQ(m_store.clears(), 0);
+        EXPECT_EQ(m_store.songs().size(), 1);
+    };
+    rebuild();
+    // A mount point that nothing is mounted on.
+    ASSERT_TRUE(QDir().mkpath(root));
+    rebuild();
+    ASSERT_TRUE(QDir().rmdir(root));
+    ASSERT_TRUE(QDir().rename(root + "-gone", root));
+}
+
+TEST_F(ScannerTest, ARootThatEmptiesAfterItsRebuildIsNotTakenForEmpty)
+{
+    m_bench.sound("A/one.mp3");
+    m_bench.scanMusic();
+    ASSERT_TRUE(m_store.clearForRebuild(m_bench.musicRoot));
+    ASSERT_TRUE(QDir(m_bench.path("A")).removeRecursively());
+    m_bench.scanMusic();
+    EXPECT_EQ(m_bench.lastResult, RootScan::Result::Offline);
 }
 
 TEST(ScannerPoolTest, GoesOnPastAFileThatIsNeverReadToItsEnd)

@@ -252,23 +252,28 @@ TEST_F(LibraryMoveTest, VideosOfOneSizeAndTimeAreKnownByNameOrTitle)
 
 TEST_F(LibraryMoveTest, DiscFoldersAreKnownByTheNamesOfTheirFolders)
 {
-    const auto disc = [](const QString &path, const QString &title) {
+    // As a scan finds them: each in a folder of its own, with the structure as what stands on disk.
+    const auto disc = [this](const QString &path, const QString &title) {
+        ScannedFolder result = folder(videoRoot, path);
         ScannedVideo video = film(path + "/folder.ifo", title);
-        video.realPath = path;
+        video.realPath = path + "/VIDEO_TS";
         video.stamp = {4096, 1600000000000};
-        return video;
+        result.videos << video;
+        return result;
     };
-    ScannedFolder from = folder(videoRoot, "/films");
-    from.videos << disc("/films/A", "A") << disc("/films/B", "B");
-    ASSERT_TRUE(store(from));
+    ASSERT_TRUE(scans->store({disc("/films/A", "A"), disc("/films/B", "B")}));
     const int a = idOfFilm("A");
     const int b = idOfFilm("B");
     now += kDayMs;
-    ScannedFolder to = folder(videoRoot, "/films/old");
-    to.videos << disc("/films/old/B", "B, old") << disc("/films/old/A", "A, old");
-    ASSERT_TRUE(scans->store({folder(videoRoot, "/films"), to}));
+    ASSERT_TRUE(scans->store({disc("/films/old/B", "B, old"), disc("/films/old/A", "A, old")}));
+    ASSERT_TRUE(scans->forgetFolders(videoRoot, {"/films/A", "/films/B"}));
     EXPECT_EQ(idOfFilm("A, old"), a);
     EXPECT_EQ(idOfFilm("B, old"), b);
+    // One alone is known under any name.
+    now += kDayMs;
+    ASSERT_TRUE(scans->forgetFolders(videoRoot, {"/films/old/A"}));
+    ASSERT_TRUE(store(disc("/films/C", "C")));
+    EXPECT_EQ(idOfFilm("C"), a);
 }
 
 TEST(MovedFiles, MoreThanAreToldApartStayUnknown)

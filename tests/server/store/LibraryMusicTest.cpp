@@ -207,14 +207,14 @@ TEST_F(LibraryMusicTest, RemovedSongsLeaveEveryListAndStayOut)
     const int list = music->createPlaylist({0, "List", {}, {}});
     ASSERT_TRUE(music->addToPlaylist(list, id));
     ASSERT_TRUE(music->notePlayed(id));
-    EXPECT_FALSE(music->removeSongs({id, 4711}));
+    EXPECT_FALSE(music->removeSongs({id, 4711}, Removal::FromLibrary));
     EXPECT_EQ(songTitles(), QStringList{"B"});
     EXPECT_EQ(music->playlistSongs(list, everything()).total, 0);
     EXPECT_EQ(music->recentSongs(everything()).total, 0);
     EXPECT_EQ(music->albums(everything()).total, 0);
     storeSongs(songs);
     EXPECT_EQ(songTitles(), QStringList{"B"});
-    EXPECT_TRUE(music->removeSongs({}));
+    EXPECT_TRUE(music->removeSongs({}, Removal::FromLibrary));
 }
 
 TEST_F(LibraryMusicTest, LikesSurviveANewStart)

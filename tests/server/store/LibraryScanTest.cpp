@@ -288,10 +288,11 @@ TEST_F(LibraryScanTest, ARebuildKeepsWhatAUserMadeAndTheIds)
     Description chosen;
     chosen.title = "Chosen";
     ASSERT_TRUE(videos->matchMovie(filmId, chosen, {}));
-    ASSERT_TRUE(scans->clearForRebuild());
+    for (const int root : {musicRoot, videoRoot})
+        ASSERT_TRUE(scans->clearForRebuild(root));
     EXPECT_EQ(music->songs(everything()).total, 0);
     EXPECT_EQ(videos->movies(Role::Movies, everything()).total, 0);
-    EXPECT_TRUE(scans->fingerprints(musicRoot).isEmpty());
+    EXPECT_EQ(scans->fingerprints(musicRoot), (QHash<QString, QByteArray>{{"/music/a", QByteArray()}}));
     EXPECT_TRUE(scans->storedSongs(musicRoot, "/music/a").isEmpty());
     EXPECT_EQ(roots->folders(roots->musicLibraryId()).size(), 1);
     EXPECT_EQ(music->playlists().size(), 1);
@@ -301,6 +302,29 @@ TEST_F(LibraryScanTest, ARebuildKeepsWhatAUserMadeAndTheIds)
     ASSERT_TRUE(scans->store({again, films}));
     expectTouched(id, "/music/a/one.mp3");
     EXPECT_EQ(idOfFilm("Chosen"), filmId);
+}
+
+TEST_F(LibraryScanTest, ARebuildOfOneFolderLeavesTheOthers)
+{
+    const int second = roots->addFolder(roots->videoLibraryId(), "/more", {});
+    ScannedFolder here = folder(videoRoot, "/films");
+    here.videos << film("/films/a.mkv", "A") << episode("/films/s1.mkv", "/films", 1, 1);
+    ScannedFolder there = folder(second, "/more");
+    there.videos << film("/more/b.mkv", "B") << episode("/more/s1.mkv", "/more", 1, 1);
+    ScannedFolder songs = folder(musicRoot, "/music");
+    songs.songs << song("/music/one.mp3", "One");
+    ASSERT_TRUE(scans->store({here, there, songs}));
+    Description told;
+    told.overview = "Told";
+    for (const ShowRecord &show : videos->shows(everything()).rows)
+        ASSERT_TRUE(videos->describeShow(show.idTvshow, told, {}));
+    ASSERT_TRUE(scans->clearForRebuild(videoRoot));
+    EXPECT_EQ(titles(Role::Movies), QStringList("B"));
+    EXPECT_EQ(songTitles(), QStringList("One"));
+    EXPECT_EQ(scans->fingerprints(second).value("/more"), there.fingerprint);
+    EXPECT_EQ(scans->storedVideos(second, "/more").size(), 2);
+    ASSERT_EQ(videos->shows(everything()).total, 1);
+    EXPECT_EQ(videos->shows(everything()).rows.first().overview, QString("Told"));
 }
 
 TEST_F(LibraryScanTest, AFolderOfBothLibrariesHoldsVideosAndSongs)
@@ -350,7 +374,7 @@ TEST_F(LibraryScanTest, TheTracksOfASheetShareItsPath)
     EXPECT_EQ(music->song(second).iTrack, 2);
     // The other tracks' files too: who removes files asks for those of all.
     EXPECT_EQ(music->filesOf(second), (QStringList{"/music/disc.cue", "/music/disc.flac"}));
-    ASSERT_TRUE(music->removeSongs({idOfSong("Track 1"), idOfSong("Track 3")}));
+    ASSERT_TRUE(music->removeSongs({idOfSong("Track 1"), idOfSong("Track 3")}, Removal::FromLibrary));
     EXPECT_TRUE(store(sheet));
     EXPECT_EQ(songTitles(), QStringList{"Track 2"});
     EXPECT_EQ(idOfSong("Track 2"), second);

@@ -161,7 +161,7 @@ TEST_F(LibraryVideoTest, VersionsAndPartsStandBehindTheirLead)
     EXPECT_EQ(titles(Role::Movies), QStringList{"A"});
     const int id = idOfFilm("A");
     EXPECT_EQ(videos->filesOf(id), (QStringList{"/films/a cd1.mkv", "/films/a cd2.mkv"}));
-    ASSERT_TRUE(videos->remove(id));
+    ASSERT_TRUE(videos->remove(id, Removal::FromLibrary));
     EXPECT_TRUE(titles(Role::Movies).isEmpty());
     EXPECT_TRUE(videos->filesOf(id).isEmpty());
     storeFilms(all);
@@ -173,9 +173,9 @@ TEST_F(LibraryVideoTest, ARemovedFilmStaysOutUntilItsFileChanges)
     QVector<ScannedVideo> all{film("/films/a.mkv", "A")};
     storeFilms(all);
     const int id = idOfFilm("A");
-    EXPECT_TRUE(videos->remove(id));
-    EXPECT_FALSE(videos->remove(id));
-    EXPECT_FALSE(videos->remove(-1));
+    EXPECT_TRUE(videos->remove(id, Removal::FromLibrary));
+    EXPECT_FALSE(videos->remove(id, Removal::FromLibrary));
+    EXPECT_FALSE(videos->remove(-1, Removal::FromLibrary));
     storeFilms(all);
     EXPECT_TRUE(titles(Role::Movies).isEmpty());
     all[0].stamp.modifiedMs += 1;

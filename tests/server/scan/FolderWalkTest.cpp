@@ -1,4 +1,5 @@
 #include "scan/FolderWalk.h"
+#include "scan/DirectoryListing.h"
 #include "scan/FolderPlan.h"
 #include "support/SampleClips.h"
 #include "support/TestLog.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -142,6 +144,59 @@ TEST_F(FolderWalkTest, TellsAnUnreadableFolderAndGoesOn)
     ::chmod(path("a").toUtf8().constData(), 0700);
 }
 
+// Root may read everything; as nobody it may not.
+class OtherUser final {
+public:
+    OtherUser()
+        : m_isRoot(::geteuid() == 0)
+    {
+        if (m_isRoot)
+            ::setfsuid(Nobody);
+    }
+    ~OtherUser()
+    {
+        if (m_isRoot)
+            ::setfsuid(0);
+    }
+    OtherUser(const OtherUser &) = delete;
+    OtherUser &operator=(const OtherUser &) = delete;
+
+private:
+    static constexpr uid_t Nobody = 65534;
+    bool m_isRoot;
+};
+
+TEST_F(FolderWalkTest, AFolderWhoseFilesCannotBeAskedForIsUnreadableAndNotEmpty)
+{
+    file("a/1");
+    file("b/2");
+    // The names in "a" may be read, and nothing else. Paths from here on, for the folders above are closed
+    // too.
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(m_tree.path()));
+    for (const auto &[name, mode] : {std::pair(".", 0755), std::pair("b", 0755), std::pair("a", 0444)})
+        EXPECT_EQ(::chmod(name, mode_t(mode)), 0);
+    QStringList unreadable;
+    {
+        const OtherUser nobody;
+        struct stat info = {};
+        EXPECT_NE(::stat("a/1", &info), 0);
+        EXPECT_EQ(::stat("b/2", &info), 0);
+        EXPECT_EQ(DirectoryListing::read("a").outcome, DirectoryListing::Outcome::Unreadable);
+        EXPECT_EQ(DirectoryListing::read("b").outcome, DirectoryListing::Outcome::Read);
+        FolderWalk walk(m_cancelled);
+        walk.walk(".", {}, [&](const auto &folder) {
+            if (!folder->isReadable)
+                unreadable << folder->path;
+            return true;
+        });
+    }
+    EXPECT_EQ(unreadable, QStringList("./a"));
+    EXPECT_EQ(::chmod("a", 0755), 0);
+    EXPECT_EQ(DirectoryListing::read("a").outcome, DirectoryListing::Outcome::Read);
+    EXPECT_TRUE(QDir::setCurrent(before));
+}
+
 TEST_F(FolderWalkTest, TellsARootThatIsNotThere)
 {
     FolderWalk walk(m_cancelled);
@@ -231,6 +286,24 @@ TEST(FolderPlanTest, SeesEachChangeThatCountsAndNoOther)
         const QByteArray now = FolderPlan::fingerprint(*folder("/r/s", row.inside, folder("/r", row.above)));
         EXPECT_EQ(now != base, row.changes) << row.what;
     }
+}
+
+TEST(FolderPlanTest, ALaterPartChangesWithTheFolderOfTheFirst)
+{
+    const QVector<FolderEntry> inside{{"VIDEO_TS", {0, 5}, true}};
+    const auto print = [&](const char *name, const QVector<FolderEntry> &above) {
+        return FolderPlan::fingerprint(
+            *folder(QStringLiteral("/r/f/") + name, inside, folder("/r/f", above)));
+    };
+    const FolderEntry first{"Disc 1", {0, 5}, true};
+    const FolderEntry changed{"Disc 1", {0, 6}, true};
+    const FolderEntry second{"Disc 2", {0, 5}, true};
+    const FolderEntry touched{"Disc 2", {0, 6}, true};
+    EXPECT_NE(print("Disc 2", {second}), print("Disc 2", {first, second}));
+    EXPECT_NE(print("Disc 2", {first, second}), print("Disc 2", {changed, second}));
+    EXPECT_EQ(print("Disc 2", {first, second}), print("Disc 2", {first, touched}));
+    EXPECT_EQ(print("Disc 1", {first}), print("Disc 1", {first, second}));
+    EXPECT_EQ(print("Other", {second}), print("Other", {first, second}));
 }
 
 TEST(FolderPlanTest, KeepsWhatLiesBelowAnUnreadableFolder)

@@ -65,7 +65,8 @@ TEST_F(LibraryListTest, TheLastRecordOfFiftyThousandCostsWhatTheFirstDoes)
     EXPECT_EQ(last.rows, first.rows);
 
     // A change is seen at once, and costs one new order.
-    ASSERT_TRUE(videos->remove(videos->movies(Role::Movies, everything()).rows.last().idFile, Removal::FromLibrary));
+    ASSERT_TRUE(
+        videos->remove(videos->movies(Role::Movies, everything()).rows.last().idFile, Removal::FromLibrary));
     EXPECT_GE(costOf(count - 2).rows, count - 1);
     EXPECT_EQ(costOf(0).rows, 2);
 }

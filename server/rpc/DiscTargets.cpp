@@ -12,7 +12,7 @@ struct DiscRow {
     QLatin1String pseudoFile;
     QLatin1String index;
 };
-constexpr DiscRow discs[] = {
+const DiscRow discs[] = {
     {QLatin1String("VIDEO_TS"), QLatin1String("folder.ifo"), QLatin1String("VIDEO_TS.IFO")},
     {QLatin1String("BDMV"), QLatin1String("folder.bdmv"), QLatin1String("index.bdmv")},
     {QLatin1String("BDMV"), QLatin1String("folder.bdm"), QLatin1String("INDEX.BDM")},

@@ -6,7 +6,9 @@
 
 namespace Keys {
 
-#define QUORIN_KEY(name) inline constexpr QLatin1String name(#name)
+// With its length: to find it out is no constant expression for every compiler.
+#define QUORIN_NAMED_KEY(name, text) inline constexpr QLatin1String name(text, int(sizeof text) - 1)
+#define QUORIN_KEY(name) QUORIN_NAMED_KEY(name, #name)
 
 // The envelope.
 QUORIN_KEY(id);
@@ -29,8 +31,8 @@ QUORIN_KEY(field);
 QUORIN_KEY(value);
 QUORIN_KEY(pattern);
 QUORIN_KEY(type);
-inline constexpr QLatin1String filterAnd("and");
-inline constexpr QLatin1String filterOperator("operator");
+QUORIN_NAMED_KEY(filterAnd, "and");
+QUORIN_NAMED_KEY(filterOperator, "operator");
 
 // Libraries and their folders.
 QUORIN_KEY(idlibrary);
@@ -134,8 +136,9 @@ QUORIN_KEY(add);
 QUORIN_KEY(ablum_name);
 QUORIN_KEY(duration);
 QUORIN_KEY(artists);
-inline constexpr QLatin1String deleted("delete");
+QUORIN_NAMED_KEY(deleted, "delete");
 
 #undef QUORIN_KEY
+#undef QUORIN_NAMED_KEY
 
 } // namespace Keys

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr QLatin1String artistType("artist");
-constexpr QLatin1String genreType("genre");
-constexpr QLatin1String albumType("album");
+const QLatin1String artistType("artist");
+const QLatin1String genreType("genre");
+const QLatin1String albumType("album");
 
 bool isCueTrack(const SongRecord &song)
 {

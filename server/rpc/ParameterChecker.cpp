@@ -20,7 +20,7 @@ struct NamedSort {
     QLatin1String text;
     SortMethod method;
 };
-constexpr NamedSort sortMethods[] = {
+const NamedSort sortMethods[] = {
     {QLatin1String("title"), SortMethod::Title},
     {QLatin1String("year"), SortMethod::Year},
     {QLatin1String("dateadded"), SortMethod::DateAdded},
@@ -32,11 +32,11 @@ struct NamedOrder {
     QLatin1String text;
     bool ascending;
 };
-constexpr NamedOrder orders[] = {{QLatin1String("ascending"), true}, {QLatin1String("descending"), false}};
+const NamedOrder orders[] = {{QLatin1String("ascending"), true}, {QLatin1String("descending"), false}};
 
-constexpr QLatin1String filterFields[] = {QLatin1String("country"), QLatin1String("genre"),
-                                          QLatin1String("year")};
-constexpr QLatin1String contains("contains");
+const QLatin1String filterFields[] = {QLatin1String("country"), QLatin1String("genre"),
+                                      QLatin1String("year")};
+const QLatin1String contains("contains");
 
 QString missing(const QString &key)
 {

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QLatin1String version("2.0");
+const QLatin1String version("2.0");
 constexpr int good = 0;
 constexpr int failed = 1;
 constexpr qint64 slowMs = 1000;

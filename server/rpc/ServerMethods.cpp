@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QLatin1String finished("1");
-constexpr QLatin1String running("0");
+const QLatin1String finished("1");
+const QLatin1String running("0");
 
 // "en", "zh-TW", "es-es": it goes into addresses of the provider and nothing else may.
 bool isLanguage(const QString &text)

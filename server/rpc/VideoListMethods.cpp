@@ -12,8 +12,8 @@ struct NamedRole {
     QLatin1String text;
     Role role;
 };
-constexpr NamedRole filterRoles[] = {{QLatin1String("movie"), Role::Movies},
-                                     {QLatin1String("tvshow"), Role::TvShows}};
+const NamedRole filterRoles[] = {{QLatin1String("movie"), Role::Movies},
+                                 {QLatin1String("tvshow"), Role::TvShows}};
 
 std::optional<Role> filterRole(const Params &params)
 {

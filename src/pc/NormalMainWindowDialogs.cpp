@@ -3,6 +3,7 @@
 
 #include "NormalPlayControl.h"
 #include "PcLibraryPaths.h"
+#include "PcMediaSession.h"
 #include "PcSettingsHost.h"
 #include "dialogs/NormalMessageBox.h"
 #include "dialogs/NormalMessageBoxFactory.h"

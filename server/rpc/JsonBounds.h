@@ -1,4 +1,6 @@
 // Bounds on a JSON text before it is parsed: a small request must not become a large tree, nor a deep one.
+// Nor may an object name a key twice: which of the two counts is anybody's guess, and Qt's parser never frees
+// the first of them.
 //
 // Pure; any thread.
 #pragma once

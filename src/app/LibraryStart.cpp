@@ -48,10 +48,14 @@ void LibraryStart::begin(const QString &folder)
     connect(m_manager, &MediaServerManager::sig_updateHeartBeat, this, &LibraryStart::onHeartBeat);
     connect(m_manager, &MediaServerManager::sig_videoPathChanged, this, &LibraryStart::loadAfterScan);
     connect(m_manager, &MediaServerManager::sig_musicPathChanged, this, &LibraryStart::loadAfterScan);
-    connect(m_manager, &MediaServerManager::sig_rebuildLibraryCompleted, this, [this](bool isTaken) {
-        if (isTaken)
-            loadAfterScan();
-    });
+    // A scan that is over before the next pulse is seen by nobody.
+    for (const auto asked : {&MediaServerManager::sig_updateLibraryCompleted,
+                             &MediaServerManager::sig_rebuildLibraryCompleted}) {
+        connect(m_manager, asked, this, [this](bool isTaken) {
+            if (isTaken)
+                loadAfterScan();
+        });
+    }
     if (!m_language.isEmpty())
         m_manager->setScraperLanguage(m_language);
     if (m_manager->isServerReady())

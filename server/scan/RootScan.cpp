@@ -1,5 +1,7 @@
 #include "RootScan.h"
 
+#include "DirectoryListing.h"
+
 #include <QDebug>
 
 namespace {
@@ -44,8 +46,11 @@ bool RootScan::visit(const std::shared_ptr<const WalkedFolder> &folder)
         m_isOffline = true;
         return false;
     }
-    if (!folder->parent && m_startsAnew)
-        empty();
+    if (!folder->parent) {
+        m_isRootEmpty = folder->entries.isEmpty();
+        if (m_startsAnew)
+            empty();
+    }
     ++m_counts.folders;
     QByteArray fingerprint;
     if (m_plan.take(*folder, fingerprint) && !read(folder, fingerprint))
@@ -125,8 +130,17 @@ RootScan::Result RootScan::end(FolderWalk::Result walked)
     if (!complete)
         return Result::Cancelled;
     const QStringList gone = m_plan.gone();
+    // The folders of a disk that is taken out during the walk look removed.
+    if (!gone.isEmpty() && !isRootStillThere())
+        return Result::Offline;
     if (!gone.isEmpty() && !m_store.forgetFolders(m_root.pathId, gone))
         qWarning() << "[scan] the database did not take" << gone.size() << "folders that are gone";
     m_store.finishScan(m_root.pathId);
     return Result::Complete;
+}
+
+bool RootScan::isRootStillThere() const
+{
+    const DirectoryListing root = DirectoryListing::read(m_root.path);
+    return root.outcome == DirectoryListing::Outcome::Read && (m_isRootEmpty || !root.entries.isEmpty());
 }

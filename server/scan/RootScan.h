@@ -44,6 +44,7 @@ private:
     bool handOn(bool all);
     [[nodiscard]] bool isHanging();
     Result end(FolderWalk::Result walked);
+    [[nodiscard]] bool isRootStillThere() const;
 
     RootFolder m_root;
     bool m_isMusic;
@@ -56,5 +57,6 @@ private:
     std::deque<std::shared_ptr<FolderWork>> m_pending;
     ScanCounts m_counts;
     bool m_startsAnew{false};
+    bool m_isRootEmpty{false};
     bool m_isOffline{false};
 };

@@ -51,7 +51,13 @@ ScanBench::ScanBench(ProbePool::Limits limits)
     videoRoot = store.addFolder(FakeStore::VideoLibrary, m_tree.path(), {});
     const Scanner::Readers readers{std::make_shared<MusicFolder>(), std::make_shared<VideoFolder>(false),
                                    std::make_shared<VideoFolder>(true)};
-    scanner = std::make_unique<Scanner>(store, store, readers, reader, Scanner::Enter(), limits);
+    scanner = std::make_unique<Scanner>(
+        store, store, readers, reader,
+        [this](const QString &folder) {
+            if (onEnter)
+                onEnter(folder);
+        },
+        limits);
     QObject::connect(scanner.get(), &Scanner::rootScanned, &m_context,
                      [this](int, RootScan::Result result) { lastResult = result; });
     QObject::connect(scanner.get(), &Scanner::scanFinished, &m_context, [this] { ++finished; });

@@ -56,6 +56,8 @@ public:
     [[nodiscard]] QVector<Scanner::Target> music() const { return {{store.root(musicRoot), true}}; }
     [[nodiscard]] bool waitForEnd();
 
+    // On the thread of the scan, before a folder is listed; set while nothing is scanned.
+    Scanner::Enter onEnter;
     FakeStore store;
     std::shared_ptr<CountingReader> reader;
     int musicRoot{0};

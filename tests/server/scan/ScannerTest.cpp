@@ -150,6 +150,25 @@ TEST_F(ScannerTest, KeepsAllOfARootThatIsGone)
     EXPECT_TRUE(m_store.isOnline(m_bench.musicRoot));
 }
 
+TEST_F(ScannerTest, KeepsAllOfARootThatGoesDuringItsScan)
+{
+    m_bench.sound("A/one.mp3");
+    m_bench.sound("B/two.mp3");
+    m_bench.scanMusic();
+    const QString root = m_bench.root();
+    m_bench.onEnter = [&root](const QString &folder) {
+        if (folder != root)
+            QDir().rename(root, root + "-gone");
+    };
+    m_bench.scanMusic();
+    EXPECT_EQ(m_bench.lastResult, RootScan::Result::Offline);
+    EXPECT_FALSE(m_store.isOnline(m_bench.musicRoot));
+    EXPECT_EQ(m_store.songs().size(), 2);
+    EXPECT_TRUE(m_store.forgotten().isEmpty());
+    m_bench.onEnter = {};
+    ASSERT_TRUE(QDir().rename(root + "-gone", root));
+}
+
 TEST_F(ScannerTest, KeepsAllOfARootThatIsSuddenlyEmpty)
 {
     m_bench.sound("A/one.mp3");

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 
@@ -42,6 +43,6 @@ private:
     QSettings &m_settings;
     std::mutex &m_mutex;
     QTimer m_retry;
-    bool m_hasFailed{false};
+    std::atomic<bool> m_hasFailed{false};
     bool m_isAbandoned{false};
 };

@@ -1,10 +1,9 @@
 #include "CoverReader.h"
 
+#include "core/ThreadWorker.h"
 #include "pictures/LocalPictureLoader.h"
 #include "pictures/PictureDecoder.h"
 #include "player/QPlayer.h"
-
-#include <QRunnable>
 
 namespace {
 
@@ -26,39 +25,31 @@ CoverReader::CoverReader(Read read, QObject *parent)
     : QObject(parent)
     , m_read(std::move(read))
     , m_generation(std::make_shared<std::atomic_int>(0))
+    , m_worker(std::make_unique<ThreadWorker>())
 {
-    m_pool.setMaxThreadCount(1);
 }
 
 CoverReader::~CoverReader()
 {
     ++*m_generation;
-    m_pool.clear();
-    m_pool.waitForDone();
 }
 
 void CoverReader::request(const QString &path)
 {
     const int generation = ++*m_generation;
-    m_pool.clear();
-    m_pool.start(QRunnable::create([this, path, generation, read = m_read, current = m_generation] {
-        if (*current != generation)
-            return;
-        const QImage cover = read(path);
-        // The object waits for its thread before it goes.
-        QMetaObject::invokeMethod(
-            this, [this, generation, path, cover] { answer(generation, path, cover); }, Qt::QueuedConnection);
-    }));
+    const auto cover = std::make_shared<QImage>();
+    m_worker->addTask(
+        [cover, path, generation, read = m_read, current = m_generation] {
+            if (*current == generation)
+                *cover = read(path);
+        },
+        [this, cover, path, generation] {
+            if (*m_generation == generation)
+                emit ready(path, *cover);
+        });
 }
 
 void CoverReader::forget()
 {
     ++*m_generation;
-    m_pool.clear();
-}
-
-void CoverReader::answer(int generation, const QString &path, const QImage &cover)
-{
-    if (*m_generation == generation)
-        emit ready(path, cover);
 }

@@ -2,17 +2,18 @@
 // film.
 //
 // Reads on a thread of its own, one source at a time; a new request replaces one that waits, and an answer
-// that comes too late is dropped. Lives on the GUI thread. The destructor waits for the reading that runs,
-// which gives up by itself after the engine's own time limit.
+// that comes too late is dropped. Lives on the GUI thread. The destructor waits a few seconds for the reading
+// that runs.
 #pragma once
 
 #include <QImage>
 #include <QObject>
-#include <QThreadPool>
 
 #include <atomic>
 #include <functional>
 #include <memory>
+
+class ThreadWorker;
 
 class CoverReader final : public QObject {
     Q_OBJECT
@@ -37,9 +38,7 @@ signals:
     void ready(const QString &path, const QImage &cover);
 
 private:
-    void answer(int generation, const QString &path, const QImage &cover);
-
     Read m_read;
-    QThreadPool m_pool;
     std::shared_ptr<std::atomic_int> m_generation;
+    std::unique_ptr<ThreadWorker> m_worker; // last: it works for all of the above
 };

@@ -25,7 +25,6 @@ CoverReader::CoverReader(Read read, QObject *parent)
     : QObject(parent)
     , m_read(std::move(read))
     , m_generation(std::make_shared<std::atomic_int>(0))
-    , m_worker(std::make_unique<ThreadWorker>())
 {
 }
 
@@ -38,6 +37,8 @@ void CoverReader::request(const QString &path)
 {
     const int generation = ++*m_generation;
     const auto cover = std::make_shared<QImage>();
+    if (!m_worker)
+        m_worker = std::make_unique<ThreadWorker>();
     m_worker->addTask(
         [cover, path, generation, read = m_read, current = m_generation] {
             if (*current == generation)

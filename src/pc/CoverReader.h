@@ -40,5 +40,5 @@ signals:
 private:
     Read m_read;
     std::shared_ptr<std::atomic_int> m_generation;
-    std::unique_ptr<ThreadWorker> m_worker; // last: it works for all of the above
+    std::unique_ptr<ThreadWorker> m_worker; // from the first request; last: it works for all of the above
 };

@@ -21,3 +21,8 @@ InstanceLock::InstanceLock(WaitBudget &budget)
             continue;
     });
 }
+
+bool InstanceLock::isHeldElsewhere() const
+{
+    return !m_file.isLocked() && m_file.error() == QLockFile::LockFailedError;
+}

@@ -32,6 +32,9 @@ bool SingleInstance::acquire(WaitBudget &budget)
 {
     // Two copies that look after a left-behind segment at once would each take the other for its owner.
     const InstanceLock lock(budget);
+    // Who holds it for so long is a copy that starts or hangs at its start: there is another one.
+    if (lock.isHeldElsewhere())
+        return false;
     // Where segments outlive their processes the last one to detach removes it, and a live owner keeps it
     // from going. The key follows the file that names it, and a new file may meet the segment of yet another
     // copy that crashed.

@@ -1,4 +1,5 @@
 #include "core/SingleInstance.h"
+#include "core/InstanceLock.h"
 #include "core/WaitBudget.h"
 
 #include <QDir>
@@ -29,6 +30,19 @@ TEST_F(SingleInstanceTest, OnlyTheFirstHoldsTheSegmentUntilItLetsGo)
     EXPECT_FALSE(second.acquire(m_waits));
     first.release();
     EXPECT_TRUE(second.acquire(m_waits));
+}
+
+// On a machine that is busy with several starts at once.
+TEST_F(SingleInstanceTest, ACopyThatIsStillStartingCountsAsAnother)
+{
+    SingleInstance late;
+    {
+        const InstanceLock starting(m_waits);
+        ASSERT_FALSE(starting.isHeldElsewhere());
+        WaitBudget noTime{0};
+        EXPECT_FALSE(late.acquire(noTime));
+    }
+    EXPECT_TRUE(late.acquire(m_waits));
 }
 
 TEST_F(SingleInstanceTest, ExactlyOneFileIsHandedOverAndEverythingElseIsAStart)

@@ -181,6 +181,18 @@ TEST_F(PlayerLibraryTest, AWindowThatIsClosedDuringAScanTakesTheServerWithItAndT
     EXPECT_TRUE(PlayerProcess::waitForEnd(second)) << "the server outlives its player";
 }
 
+// The scan at the start is over before anybody has asked for its progress.
+TEST_F(PlayerLibraryTest, ASongThatCameWhileThePlayerWasAwayIsLoadedAfterTheNextStart)
+{
+    ASSERT_NO_FATAL_FAILURE(startPlayer());
+    EXPECT_EQ(m_player.stop(), 0);
+    EXPECT_TRUE(PlayerProcess::waitForEnd(m_server));
+    m_tree.sound("mine/Band/3.mp3", {"Three", "Band", "First", {}, "Rock", 1999, 3, {}});
+    ASSERT_TRUE(m_player.start({"--library", m_tree.full("mine")}));
+    EXPECT_TRUE(m_player.waitForLog(counts(FewSongs + 1)));
+    EXPECT_EQ(m_player.stop(), 0);
+}
+
 TEST(ServerStartTest, AServerThatIsGivenNoFolderTakesThatOfThePlayer)
 {
     const QTemporaryDir home;

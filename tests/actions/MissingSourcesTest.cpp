@@ -21,7 +21,6 @@ namespace {
 
 constexpr int kMissing = 10000;
 constexpr int kLongestSilenceMs = 3000;
-constexpr int kPassingMs = 50000;
 
 } // namespace
 
@@ -56,10 +55,7 @@ TEST(MissingSources, TenThousandBetweenTwoThatAreThereArePassedOverWithoutAStall
     PlayQueue *queue = rig.window().overlays()->playlist()->queue();
     rig.window().slot_playSource(first);
     ASSERT_EVENTUALLY(queue->count() == kMissing + 2);
-    // Each of them is asked for on the disk, which takes its time on a busy machine.
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return rig.window().playControl()->currentPath() == last && rig.player().isPlaying(); },
-        kPassingMs));
+    ASSERT_EVENTUALLY(rig.window().playControl()->currentPath() == last && rig.player().isPlaying());
     EXPECT_TRUE(rig.reaches("path", last));
     EXPECT_FALSE(isAsked);
     queue->removeInvalid();

@@ -241,6 +241,7 @@ void NormalMainWindow::connectPlaylist()
     connect(playlist, &NormalPlaylistView::sig_notice, this,
             [this](const QString &text) { NormalMessageBoxFactory::showNote(this, text); });
     connect(m_control, &NormalPlayControl::queueTurn, playlist, &NormalPlaylistView::slot_autoPlayNext);
+    connect(m_control, &NormalPlayControl::selectViewWanted, playlist, &NormalPlaylistView::dropNext);
     m_control->setQueueTitle([playlist](const QString &path) { return playlist->beginSource(path); });
 }
 

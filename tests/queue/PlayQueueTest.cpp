@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <condition_variable>
 #include <mutex>
 #include <set>
 #include <thread>
@@ -33,7 +34,10 @@ PlayerDisc disc(int titles, int main)
 // What the workers see, changed by the test.
 struct World {
     std::mutex mutex;
+    std::condition_variable answers;
     std::set<QString> gone;
+    // Their drives do not answer.
+    std::set<QString> held;
     int titles{3};
     std::atomic<int> looks{0};
     std::atomic<int> asks{0};
@@ -53,7 +57,8 @@ protected:
             ++world->looks;
             if (std::this_thread::get_id() == world->gui)
                 world->onGuiThread = true;
-            const std::lock_guard<std::mutex> lock(world->mutex);
+            std::unique_lock<std::mutex> lock(world->mutex);
+            world->answers.wait(lock, [&world, &path] { return world->held.count(path) == 0; });
             return world->gone.count(path) == 0;
         };
         services.titles = [world = world](const QString &, int) {
@@ -75,7 +80,7 @@ protected:
     void add(const QStringList &paths)
     {
         queue->add(paths);
-        ASSERT_EVENTUALLY(!queue->isAppending());
+        ASSERT_EVENTUALLY(!queue->isAppending() && !queue->isChecking());
     }
     void setLoop(int type) { queue->setLoopType(type); }
     void playRow(int row)
@@ -94,6 +99,12 @@ protected:
     {
         const std::lock_guard<std::mutex> lock(world->mutex);
         world->gone = paths;
+    }
+    void hold(const std::set<QString> &paths)
+    {
+        const std::lock_guard<std::mutex> lock(world->mutex);
+        world->held = paths;
+        world->answers.notify_all();
     }
     [[nodiscard]] QStringList names() const
     {
@@ -115,6 +126,115 @@ protected:
 } // namespace
 
 // ---- what plays next
+
+// The list is still being looked through when the first source ends.
+class EarlyEnds : public PlayQueues {
+protected:
+    ~EarlyEnds() override { hold({}); }
+
+    void endEarly(const std::set<QString> &slow)
+    {
+        setLoop(QueueOrder::Sequence);
+        hold(slow);
+        queue->add({"/a.mkv", "/b.mkv", "/c.mkv"});
+        ASSERT_EVENTUALLY(queue->model()->sourceCount() == 3);
+        playRow(0);
+        endOfSource();
+        ASSERT_TRUE(queue->isNextDue());
+        EXPECT_TRUE(played.isEmpty());
+    }
+};
+
+TEST_F(EarlyEnds, ARowThatNobodyHasLookedAtWaitsForItsAnswer)
+{
+    endEarly({"/b.mkv"});
+    hold({});
+    ASSERT_EVENTUALLY(!played.isEmpty());
+    EXPECT_EQ(played, QStringList("/b.mkv -1"));
+    EXPECT_FALSE(queue->isNextDue());
+}
+
+TEST_F(EarlyEnds, ARowThatTurnsOutToBeGoneIsPassedOver)
+{
+    lose({"/b.mkv"});
+    endEarly({"/b.mkv", "/c.mkv"});
+    hold({"/c.mkv"});
+    ASSERT_EVENTUALLY(queue->model()->presence(1) == Model::Presence::Gone);
+    hold({});
+    ASSERT_EVENTUALLY(!played.isEmpty());
+    EXPECT_EQ(played, QStringList("/c.mkv -1"));
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(EarlyEnds, WithAllOthersGonePlaybackEnds)
+{
+    lose({"/b.mkv", "/c.mkv"});
+    endEarly({"/b.mkv"});
+    hold({});
+    ASSERT_EVENTUALLY(ends == 1);
+    EXPECT_TRUE(played.isEmpty());
+    EXPECT_EQ(queue->pendingTitle(), PlayQueue::NoTitle);
+}
+
+TEST_F(EarlyEnds, ADriveThatNeverAnswersIsTriedAfterAWhile)
+{
+    endEarly({"/b.mkv", "/c.mkv"});
+    ASSERT_EVENTUALLY(!played.isEmpty());
+    EXPECT_EQ(played, QStringList("/b.mkv -1"));
+}
+
+TEST_F(EarlyEnds, TheOneThatHasJustPlayedWaitsForNothing)
+{
+    setLoop(QueueOrder::RepeatOne);
+    hold({"/a.mkv"});
+    queue->add({"/a.mkv", "/b.mkv"});
+    ASSERT_EVENTUALLY(queue->model()->sourceCount() == 2);
+    playRow(0);
+    endOfSource();
+    EXPECT_FALSE(queue->isNextDue());
+    EXPECT_EQ(played, QStringList("/a.mkv -1"));
+}
+
+TEST_F(EarlyEnds, WhatTheUserPlaysInsteadIsAllThatPlays)
+{
+    endEarly({"/b.mkv"});
+    queue->playRow(queue->model()->index(2));
+    EXPECT_FALSE(queue->isNextDue());
+    hold({});
+    ASSERT_EVENTUALLY(!queue->isChecking());
+    EXPECT_EQ(played, QStringList("/c.mkv -1"));
+}
+
+TEST_F(EarlyEnds, ASourceFromElsewhereTakesItsPlace)
+{
+    endEarly({"/b.mkv"});
+    EXPECT_EQ(queue->beginSource("/elsewhere.mkv"), PlayQueue::NoTitle);
+    hold({});
+    ASSERT_EVENTUALLY(!queue->isChecking());
+    EXPECT_TRUE(played.isEmpty());
+}
+
+TEST_F(EarlyEnds, AUserWhoGoesBackIsNotFollowed)
+{
+    endEarly({"/b.mkv"});
+    queue->dropNext();
+    EXPECT_EQ(queue->pendingTitle(), PlayQueue::NoTitle);
+    hold({});
+    ASSERT_EVENTUALLY(!queue->isChecking());
+    EXPECT_TRUE(played.isEmpty());
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(EarlyEnds, RowsThatAreRemovedMeanwhileAreNotPlayed)
+{
+    endEarly({"/b.mkv", "/c.mkv"});
+    queue->remove({queue->model()->index(1)});
+    EXPECT_TRUE(queue->isNextDue());
+    queue->removeAll();
+    EXPECT_FALSE(queue->isNextDue());
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(played.isEmpty());
+}
 
 TEST_F(PlayQueues, AnEmptyQueueEndsPlaybackAtTheFirstEndOfSource)
 {
@@ -142,7 +262,7 @@ TEST_F(PlayQueues, ASourceThatPlaysBeforeItsRowIsThereIsTheCurrentOneOnceItIs)
     queue->add({"/a.mkv", "/b.mkv"});
     EXPECT_EQ(queue->beginSource("/a.mkv"), -1);
     EXPECT_FALSE(queue->playNode().isValid());
-    ASSERT_EVENTUALLY(!queue->isAppending());
+    ASSERT_EVENTUALLY(!queue->isAppending() && !queue->isChecking());
     EXPECT_EQ(queue->playNode().row(), 0);
     endOfSource();
     EXPECT_EQ(ends, 0);
@@ -235,7 +355,7 @@ TEST_F(PlayQueues, TheTitleIsPendingWhileTheNextEntryIsChosen)
     services.exists = [](const QString &) { return true; };
     queue = std::make_unique<PlayQueue>(*settings, services);
     queue->add({"/a.mkv", "/b.mkv"});
-    ASSERT_EVENTUALLY(queue->model()->sourceCount() == 2);
+    ASSERT_EVENTUALLY(queue->model()->sourceCount() == 2 && !queue->isChecking());
     queue->autoPlayNext(queue->model()->index(0));
     EXPECT_EQ(during, PlayQueue::Choosing);
     EXPECT_EQ(queue->pendingTitle(), -1);

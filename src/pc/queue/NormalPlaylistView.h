@@ -68,6 +68,8 @@ public:
     // A source is on its way: the title to open when it is an entry of the queue that names one, else -1.
     int beginSource(const QString &path) { return m_queue->beginSource(path); }
     void requestRefused() { m_queue->requestRefused(); }
+    // The user has gone back: nothing follows by itself any more.
+    void dropNext() { m_queue->dropNext(); }
     void addSources(const QStringList &paths) { m_queue->add(paths); }
     void save() { m_queue->save(); }
     // False when the key is none of the panel's: it is closed, or the keyboard is not in it.

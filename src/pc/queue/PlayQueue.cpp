@@ -56,6 +56,9 @@ PlayQueue::PlayQueue(SettingsManager &settings, Services services, QObject *pare
     m_checkTimer.setSingleShot(true);
     m_checkTimer.setInterval(kPatienceMs);
     connect(&m_checkTimer, &QTimer::timeout, this, &PlayQueue::checkOn);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(kPatienceMs);
+    connect(&m_patience, &QTimer::timeout, this, &PlayQueue::takeNext);
     connect(&m_presence, &FilePresence::checked, this, [this](const QString &path, bool isPresent) {
         m_known.insert(QueuePath::key(path), isPresent);
         --m_answersDue;
@@ -134,6 +137,7 @@ void PlayQueue::slot_appendSourceRow()
         QTimer::singleShot(0, this, &PlayQueue::slot_appendSourceRow);
         return;
     }
+    m_isCheckPosted = true;
     QTimer::singleShot(0, this, &PlayQueue::checkPresence);
 }
 
@@ -158,15 +162,16 @@ void PlayQueue::dropRows(const QVector<int> &rows)
     m_model.removeSources(rows);
     emit countChanged(count());
     emit markChanged();
+    takeNext();
 }
 
 void PlayQueue::removeAll()
 {
     m_groups.clear();
-    check({});
-    m_presence.check({});
     m_store.clear();
     m_model.clear();
+    check({});
+    m_presence.check({});
     emit countChanged(0);
     emit markChanged();
 }
@@ -179,6 +184,7 @@ void PlayQueue::removeInvalid()
 
 void PlayQueue::checkPresence()
 {
+    m_isCheckPosted = false;
     // One that drops what is gone looks at everything already.
     if (!m_dropsInvalid)
         check(m_model.paths());
@@ -186,6 +192,7 @@ void PlayQueue::checkPresence()
 
 void PlayQueue::check(const QStringList &paths)
 {
+    m_isCheckPosted = false;
     m_known.clear();
     m_toCheck = paths;
     checkOn();
@@ -200,6 +207,7 @@ void PlayQueue::checkOn()
     m_answersDue = batch.size();
     if (batch.isEmpty()) {
         m_dropsInvalid = false;
+        takeNext();
         return;
     }
     m_presence.check(batch);
@@ -222,6 +230,7 @@ void PlayQueue::showPresence()
         }
         dropRows(rows);
     }
+    takeNext();
     if (m_answersDue <= 0 && m_checkTimer.isActive())
         checkOn();
 }
@@ -264,18 +273,54 @@ QModelIndex PlayQueue::indexOf(QueueOrder::Place place) const
 
 void PlayQueue::autoPlayNext(const QModelIndex &current)
 {
+    dropNext();
     if (!current.isValid()) {
         emit playBackEnd();
         return;
     }
     m_pendingTitle = Choosing;
     const QModelIndex next = indexOf(m_order.afterEnd(loopType(), placeOf(current), shape()));
-    if (next.isValid()) {
+    if (!next.isValid()) {
+        m_pendingTitle = NoTitle;
+        emit playBackEnd();
+        return;
+    }
+    // The one that has just played is there.
+    if (placeOf(next).row == placeOf(current).row || !isAwaited(next)) {
         playRow(next);
         return;
     }
+    m_ended = current;
+    m_next = next;
+    m_isNextDue = true;
+    m_patience.start();
+}
+
+bool PlayQueue::isAwaited(const QModelIndex &index) const
+{
+    return (isChecking() || isAppending())
+           && m_model.presence(placeOf(index).row) == PlayQueueModel::Presence::Unknown;
+}
+
+void PlayQueue::dropNext()
+{
+    if (!m_isNextDue)
+        return;
+    m_isNextDue = false;
+    m_patience.stop();
     m_pendingTitle = NoTitle;
-    emit playBackEnd();
+}
+
+void PlayQueue::takeNext()
+{
+    const bool isInList = m_next.isValid();
+    if (!m_isNextDue || (isInList && m_patience.isActive() && isAwaited(m_next)))
+        return;
+    dropNext();
+    if (isInList && m_model.presence(placeOf(m_next).row) != PlayQueueModel::Presence::Gone)
+        playRow(m_next);
+    else
+        autoPlayNext(m_ended);
 }
 
 void PlayQueue::playNext(const QModelIndex &current)
@@ -298,6 +343,7 @@ void PlayQueue::playRow(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
+    dropNext();
     const QString path = index.data(PlayQueueModel::PathRole).toString();
     m_nodeBefore = m_playNode;
     m_pendingTitle = index.data(PlayQueueModel::TitleNumberRole).toInt();
@@ -323,6 +369,7 @@ void PlayQueue::setPlayNode(QModelIndex index)
 
 int PlayQueue::beginSource(const QString &path)
 {
+    dropNext();
     const QString kept = QueuePath::kept(path);
     const int title = m_pendingTitle;
     m_pendingTitle = NoTitle;

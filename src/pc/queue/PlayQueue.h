@@ -56,7 +56,7 @@ public:
     // Looks at all of them anew and drops those that are gone as their drives answer.
     void removeInvalid();
     void checkPresence();
-    [[nodiscard]] bool isChecking() const { return m_checkTimer.isActive(); }
+    [[nodiscard]] bool isChecking() const { return m_isCheckPosted || m_checkTimer.isActive(); }
 
     void sortBy(int sortType);
     void moveRows(const QVector<int> &rows, int before);
@@ -65,7 +65,13 @@ public:
     [[nodiscard]] int sortType() const { return m_store.sortType(); }
 
     // ---- playing
+    // Plays what follows, or tells that nothing does. One that has not been looked at yet while the list is being
+    // looked through is played when its answer is there, or after two seconds without one: a file that is gone is
+    // passed over and does not end the queue.
     void autoPlayNext(const QModelIndex &current);
+    [[nodiscard]] bool isNextDue() const { return m_isNextDue; }
+    // The user has gone elsewhere: what waits for its answer is not played.
+    void dropNext();
     void playNext(const QModelIndex &current);
     void playLast(const QModelIndex &current);
     void playRow(const QModelIndex &index);
@@ -116,6 +122,8 @@ private:
     void check(const QStringList &paths);
     void checkOn();
     void showPresence();
+    [[nodiscard]] bool isAwaited(const QModelIndex &index) const;
+    void takeNext();
     void showMeta();
     // By value: the index of the node itself would go with the node.
     void setPlayNode(QModelIndex index);
@@ -137,7 +145,14 @@ private:
     QTimer m_checkTimer;
     int m_answersDue{0};
     bool m_isShowPosted{false};
+    bool m_isCheckPosted{false};
     bool m_dropsInvalid{false};
+
+    // What follows m_ended, while it waits for its answer.
+    QPersistentModelIndex m_next;
+    QPersistentModelIndex m_ended;
+    QTimer m_patience;
+    bool m_isNextDue{false};
 
     QPersistentModelIndex m_playNode;
     QPersistentModelIndex m_nodeBefore;

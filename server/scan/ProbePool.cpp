@@ -13,8 +13,9 @@
 
 namespace {
 
-// The pool reads on while the database takes a batch in.
-constexpr std::size_t QueuePerWorker = 256;
+// The pool reads on while the database takes a batch in. The scan brings new files when so many are left and then as
+// many more at once: to be woken for each of them takes longer than it takes to read one.
+constexpr std::size_t LeftPerWorker = 256;
 using Clock = MediaDeadline::Clock;
 
 struct Job {
@@ -41,6 +42,7 @@ struct ProbePool::State {
     std::condition_variable work;     // for the workers
     std::condition_variable progress; // for the scan
     std::deque<Job> queue;
+    std::size_t mostLeft{0};
     std::list<std::shared_ptr<Worker>> workers;
     int stuck{0};
     bool ends{false};
@@ -53,7 +55,8 @@ void ProbePool::State::finish(const Job &job, FileFacts &&facts)
 {
     job.work->facts[job.index] = std::move(facts);
     --job.work->waiting;
-    progress.notify_all();
+    if (job.work->waiting == 0 || queue.empty())
+        progress.notify_all();
 }
 
 void ProbePool::State::run(const std::shared_ptr<State> &state, const std::shared_ptr<Worker> &self)
@@ -65,10 +68,12 @@ void ProbePool::State::run(const std::shared_ptr<State> &state, const std::share
             return;
         const Job job = state->queue.front();
         state->queue.pop_front();
+        if (state->queue.size() == state->mostLeft)
+            state->progress.notify_all();
         self->job = job;
         self->since = Clock::now();
-        const FileTask task = job.work->tasks[job.index];
         lock.unlock();
+        const FileTask &task = job.work->tasks[job.index];
         FileFacts facts;
         try {
             const MediaDeadline deadline(state->limits.perFile, state->cancelled.get());
@@ -91,6 +96,7 @@ ProbePool::ProbePool(std::shared_ptr<IFileReader> reader, CancelFlag cancelled, 
     m_state->reader = std::move(reader);
     m_state->cancelled = std::move(cancelled);
     m_state->limits = limits;
+    m_state->mostLeft = LeftPerWorker * std::size_t(m_workers);
     std::lock_guard lock(m_state->mutex);
     for (int i = 0; i < m_workers; ++i)
         startWorker();
@@ -175,13 +181,15 @@ bool ProbePool::submit(const std::shared_ptr<FolderWork> &work)
         work->facts.resize(work->tasks.size());
         work->waiting = int(work->tasks.size());
     }
-    const std::size_t longest = QueuePerWorker * std::size_t(m_workers);
-    for (std::size_t index = 0; index < work->tasks.size(); ++index) {
-        if (!waitUntil([&] { return m_state->queue.size() < longest; }))
+    State &state = *m_state;
+    for (std::size_t index = 0; index < work->tasks.size();) {
+        if (!waitUntil([&state] { return state.queue.size() <= state.mostLeft; }))
             return false;
-        std::lock_guard lock(m_state->mutex);
-        m_state->queue.push_back({work, index});
-        m_state->work.notify_one();
+        const std::size_t end = std::min(work->tasks.size(), index + state.mostLeft);
+        std::lock_guard lock(state.mutex);
+        for (; index < end; ++index)
+            state.queue.push_back({work, index});
+        state.work.notify_all();
     }
     return !*m_state->cancelled;
 }

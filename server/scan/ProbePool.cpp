@@ -13,8 +13,8 @@
 
 namespace {
 
-// The pool reads on while the database takes a batch in. The scan brings new files when so many are left and then as
-// many more at once: to be woken for each of them takes longer than it takes to read one.
+// The pool reads on while the database takes a batch in. The scan brings new files when so many are left and
+// then as many more at once: to be woken for each of them takes longer than it takes to read one.
 constexpr std::size_t LeftPerWorker = 256;
 using Clock = MediaDeadline::Clock;
 

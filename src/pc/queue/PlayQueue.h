@@ -65,9 +65,9 @@ public:
     [[nodiscard]] int sortType() const { return m_store.sortType(); }
 
     // ---- playing
-    // Plays what follows, or tells that nothing does. One that has not been looked at yet while the list is being
-    // looked through is played when its answer is there, or after two seconds without one: a file that is gone is
-    // passed over and does not end the queue.
+    // Plays what follows, or tells that nothing does. One that has not been looked at yet while the list is
+    // being looked through is played when its answer is there, or after two seconds without one: a file that
+    // is gone is passed over and does not end the queue.
     void autoPlayNext(const QModelIndex &current);
     [[nodiscard]] bool isNextDue() const { return m_isNextDue; }
     // The user has gone elsewhere: what waits for its answer is not played.

@@ -13,8 +13,9 @@ namespace {
 
 constexpr int StartMs = 30 * 1000;
 constexpr int AnswerMs = 60 * 1000;
-// The protocol tells the end of a scan to those who ask alone.
-constexpr unsigned long PauseMs = 5;
+// The protocol tells the end of a scan to those who ask alone; more often than this takes a tenth of a core
+// from it.
+constexpr unsigned long PauseMs = 10;
 
 [[noreturn]] void giveUp(const QString &why)
 {
@@ -37,6 +38,8 @@ LibraryServer::LibraryServer(const QString &program, const QString &dataFolder, 
             giveUp(QStringLiteral("does not answer"));
         QThread::msleep(PauseMs);
     }
+    // It listens before its database is open; this is answered once that is.
+    ask(QStringLiteral("VMusicLibrary.GetLibraries"), {{QStringLiteral("type"), QStringLiteral("all")}});
 }
 
 QByteArray LibraryServer::post(const QString &method, const QByteArray &body) const

@@ -79,8 +79,11 @@ const TagStream::Block &TagStream::block(qint64 number)
     }
     oldest->number = number;
     oldest->used = ++m_uses;
-    oldest->bytes.resize(int(BlockSize));
-    const qint64 count = m_file.readAt(number * BlockSize, oldest->bytes.data(), BlockSize);
+    // Not past the end: one more call of the system for each file would tell nothing but that.
+    const qint64 begin = number * BlockSize;
+    const qint64 wanted = qBound<qint64>(0, m_file.size() - begin, BlockSize);
+    oldest->bytes.resize(int(wanted));
+    const qint64 count = m_file.readAt(begin, oldest->bytes.data(), wanted);
     oldest->bytes.truncate(int(qMax<qint64>(0, count)));
     return *oldest;
 }

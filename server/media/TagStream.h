@@ -31,7 +31,7 @@ public:
     void truncate(long) override {}
 
 private:
-    static constexpr qint64 BlockSize = 16 * 1024;
+    static constexpr qint64 BlockSize = 4 * 1024;
     struct Block {
         qint64 number{-1};
         qint64 used{0};

@@ -1,5 +1,7 @@
 #include "ProbePool.h"
 
+#include "BackgroundPriority.h"
+
 #include <QDebug>
 #include <QThread>
 
@@ -61,6 +63,8 @@ void ProbePool::State::finish(const Job &job, FileFacts &&facts)
 
 void ProbePool::State::run(const std::shared_ptr<State> &state, const std::shared_ptr<Worker> &self)
 {
+    // Whoever asks the server for something is answered first, and what was read is written before more is.
+    BackgroundPriority::takeForThread();
     std::unique_lock lock(state->mutex);
     while (true) {
         state->work.wait(lock, [&] { return state->ends || !state->queue.empty(); });

@@ -62,7 +62,8 @@ QVector<int> FileMatcher::match(const QVector<ScannedFolder> &folders, const QVe
                     ? kRefused
                     : m_table.idAt(m_connection, file.path, file.track));
     }
-    matchMoves(files, contentOf, &ids);
+    if (m_table.mayMissAny(m_connection))
+        matchMoves(files, contentOf, &ids);
     giveNewIds(&ids);
     return ids;
 }

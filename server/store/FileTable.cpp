@@ -120,6 +120,16 @@ QVector<FileRow> FileTable::alike(Connection &connection, const FileRow &file, b
     return readAll(&statement);
 }
 
+bool FileTable::mayMissAny(Connection &connection) const
+{
+    // The index over what is missing begins with the kind there.
+    if (m_isVideos)
+        return true;
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE missing_since > 0 LIMIT 1").arg(m_name));
+    return !statement.run() || statement.next();
+}
+
 void FileTable::addContent(Connection &connection, QVector<FileRow> *rows) const
 {
     for (FileRow &row : *rows) {

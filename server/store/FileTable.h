@@ -45,6 +45,8 @@ public:
     // empty files, and not more than the number.
     [[nodiscard]] QVector<FileRow> alike(Connection &connection, const FileRow &file, bool missing,
                                          int most) const;
+    // False only when no row is missing, so that alike() need not be asked for each file.
+    [[nodiscard]] bool mayMissAny(Connection &connection) const;
     // Fills in FileRow::content.
     void addContent(Connection &connection, QVector<FileRow> *rows) const;
     [[nodiscard]] bool isVideos() const { return m_isVideos; }

@@ -13,6 +13,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -92,16 +93,23 @@ QVector<ScannedVideo> ScanStore::storedVideos(int pathId, const QString &folder)
 
 bool ScanStore::store(const QVector<ScannedFolder> &folders)
 {
+    const QVector<SongScan::Found> songs = SongScan::prepare(folders);
     return m_database.write(Database::Urgency::Scan, [&](Connection &connection) {
         // A folder can be taken out of its library while a scan still reads it.
+        QHash<int, bool> known;
+        const auto isWanted = [&](int root) {
+            const auto found = known.constFind(root);
+            return found != known.constEnd() ? *found : *known.insert(root, isKnown(connection, root));
+        };
         QVector<ScannedFolder> wanted;
-        for (const ScannedFolder &folder : folders) {
-            if (isKnown(connection, folder.pathId))
-                wanted << folder;
-        }
+        std::copy_if(folders.begin(), folders.end(), std::back_inserter(wanted),
+                     [&](const ScannedFolder &folder) { return isWanted(folder.pathId); });
+        QVector<SongScan::Found> wantedSongs;
+        std::copy_if(songs.begin(), songs.end(), std::back_inserter(wantedSongs),
+                     [&](const SongScan::Found &song) { return isWanted(song.root); });
         const qint64 now = m_database.now();
         return !wanted.isEmpty() && VideoScan(connection, now).store(wanted)
-               && SongScan(connection, now).store(wanted)
+               && SongScan(connection, now).store(wanted, wantedSongs)
                && std::all_of(wanted.begin(), wanted.end(), [&connection](const ScannedFolder &folder) {
                       return storeFingerprint(connection, folder);
                   });

@@ -17,10 +17,9 @@ SongScan::SongScan(Connection &connection, qint64 now)
 {
 }
 
-bool SongScan::store(const QVector<ScannedFolder> &folders)
+QVector<SongScan::Found> SongScan::prepare(const QVector<ScannedFolder> &folders)
 {
-    QVector<FileRow> files;
-    QVector<QPair<const ScannedSong *, int>> found;
+    QVector<Found> found;
     QSet<QPair<QString, int>> places;
     for (const ScannedFolder &folder : folders) {
         for (const ScannedSong &song : folder.songs) {
@@ -37,24 +36,31 @@ bool SongScan::store(const QVector<ScannedFolder> &folders)
             file.suffix = song.suffix;
             file.track = song.track;
             file.stamp = song.stamp;
-            files << file;
-            found << qMakePair(&song, folder.pathId);
+            found << Found{&song, folder.pathId, file, StoredJson::ofSong(song)};
         }
     }
+    return found;
+}
+
+bool SongScan::store(const QVector<ScannedFolder> &folders, const QVector<Found> &found)
+{
+    QVector<FileRow> files;
+    files.reserve(found.size());
+    for (const Found &each : found)
+        files << each.file;
     const QVector<int> ids = m_matcher.match(
-        folders, files, [&found](int index) { return ContentKey::ofSong(*found.at(index).first); },
+        folders, files, [&found](int index) { return ContentKey::ofSong(*found.at(index).song); },
         m_writer.containers());
     if (m_matcher.isFailed() || !replace(m_matcher.earlierMoves()))
         return false;
     for (int index = 0; index < found.size(); ++index) {
-        if (ids.at(index) != FileMatcher::kRefused
-            && !write(ids.at(index), found.at(index).second, *found.at(index).first, files.at(index)))
+        if (ids.at(index) != FileMatcher::kRefused && !write(ids.at(index), found.at(index)))
             return false;
     }
     return replace(m_matcher.lateMoves()) && m_writer.finish();
 }
 
-bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &file)
+bool SongScan::write(int id, const Found &found)
 {
     const bool isNew = m_matcher.isNew(id);
     SongRow row = isNew ? SongRow() : SongRow::table().find(m_connection, id);
@@ -62,16 +68,16 @@ bool SongScan::write(int id, int root, const ScannedSong &song, const FileRow &f
         row.id = id;
         row.added = m_now;
     }
-    row.root = root;
-    row.folder = file.folder;
-    row.path = file.path;
-    row.track = file.track;
-    row.size = song.stamp.size;
-    row.modified = song.stamp.modifiedMs;
+    row.root = found.root;
+    row.folder = found.file.folder;
+    row.path = found.file.path;
+    row.track = found.file.track;
+    row.size = found.file.stamp.size;
+    row.modified = found.file.stamp.modifiedMs;
     row.seen = m_now;
     row.missingSince = 0;
-    row.scanned = StoredJson::ofSong(song);
-    return m_writer.write(&row, song, isNew ? SongWriter::Row::New : SongWriter::Row::Known);
+    row.scanned = found.scanned;
+    return m_writer.write(&row, *found.song, isNew ? SongWriter::Row::New : SongWriter::Row::Known);
 }
 
 bool SongScan::replace(const QVector<FileMatcher::Move> &moves)

@@ -8,13 +8,24 @@
 
 class SongScan final {
 public:
+    // A song with what can be said of it without the database.
+    struct Found {
+        const ScannedSong *song{nullptr}; // of the folders
+        int root{0};
+        FileRow file;
+        QString scanned; // StoredJson
+    };
+
     SongScan(Connection &connection, qint64 now);
 
-    [[nodiscard]] bool store(const QVector<ScannedFolder> &folders);
+    // Any thread: there is one writer only, and this need not be its work. The folders outlive the result.
+    [[nodiscard]] static QVector<Found> prepare(const QVector<ScannedFolder> &folders);
+    // found: all that prepare() says of these folders.
+    [[nodiscard]] bool store(const QVector<ScannedFolder> &folders, const QVector<Found> &found);
     [[nodiscard]] bool forget(int root, const QStringList &folders);
 
 private:
-    [[nodiscard]] bool write(int id, int root, const ScannedSong &song, const FileRow &file);
+    [[nodiscard]] bool write(int id, const Found &found);
     [[nodiscard]] bool replace(const QVector<FileMatcher::Move> &moves);
 
     Connection &m_connection;

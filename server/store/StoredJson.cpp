@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <type_traits>
 #include <variant>
 
 namespace {
@@ -45,20 +47,21 @@ const Field<ScannedVideo> kVideoFields[] = {
     {QLatin1String("wantsMetadata"), &ScannedVideo::wantsMetadata},
 };
 
+// By name, as they stand in the text.
 const Field<ScannedSong> kSongFields[] = {
-    {QLatin1String("title"), &ScannedSong::title},
-    {QLatin1String("artist"), &ScannedSong::artist},
-    {QLatin1String("albumArtist"), &ScannedSong::albumArtist},
     {QLatin1String("album"), &ScannedSong::album},
+    {QLatin1String("albumArtist"), &ScannedSong::albumArtist},
+    {QLatin1String("artist"), &ScannedSong::artist},
+    {QLatin1String("cuePath"), &ScannedSong::cuePath},
+    {QLatin1String("discNumber"), &ScannedSong::discNumber},
     {QLatin1String("genre"), &ScannedSong::genre},
     {QLatin1String("poster"), &ScannedSong::poster},
+    {QLatin1String("runtimeMs"), &ScannedSong::runtimeMs},
     {QLatin1String("suffix"), &ScannedSong::suffix},
-    {QLatin1String("cuePath"), &ScannedSong::cuePath},
+    {QLatin1String("title"), &ScannedSong::title},
     {QLatin1String("track"), &ScannedSong::track},
     {QLatin1String("trackNumber"), &ScannedSong::trackNumber},
-    {QLatin1String("discNumber"), &ScannedSong::discNumber},
     {QLatin1String("year"), &ScannedSong::year},
-    {QLatin1String("runtimeMs"), &ScannedSong::runtimeMs},
 };
 
 const Field<GivenDescription> kGivenFields[] = {
@@ -136,6 +139,50 @@ Description described(const QJsonObject &object)
     return description;
 }
 
+bool isPlain(const QString &text)
+{
+    return std::none_of(text.begin(), text.end(), [](QChar character) {
+        return character < QLatin1Char(' ') || character == QLatin1Char('"') || character == QLatin1Char('\\')
+               || character.isSurrogate();
+    });
+}
+
+bool append(QString *text, const QString &value)
+{
+    *text += QLatin1Char('"') + value + QLatin1Char('"');
+    return isPlain(value);
+}
+
+bool append(QString *text, int value)
+{
+    *text += QString::number(value);
+    return true;
+}
+
+// Of members without anything to escape, what toText(toObject()) makes, in a sixth of the time: a first scan
+// of music spent a tenth of its processor time there. Empty where there is something to escape.
+template<class Record, size_t Count>
+QString plainText(const Record &record, const Field<Record> (&sortedFields)[Count])
+{
+    static const Record nothing;
+    QString text;
+    bool isAllPlain = true;
+    const auto put = [&](QLatin1String name, auto member) {
+        if constexpr (!std::is_same_v<decltype(member), bool Record::*>) {
+            if (record.*member == nothing.*member)
+                return;
+            text +=
+                QLatin1Char(text.isEmpty() ? '{' : ',') + (QLatin1Char('"') + name) + QLatin1String("\":");
+            isAllPlain &= append(&text, record.*member);
+        } else {
+            isAllPlain = false;
+        }
+    };
+    for (const Field<Record> &field : sortedFields)
+        std::visit([&](auto member) { put(field.name, member); }, field.member);
+    return isAllPlain && !text.isEmpty() ? text + QLatin1Char('}') : QString();
+}
+
 } // namespace
 
 QString StoredJson::ofDescription(const Description &description)
@@ -171,7 +218,8 @@ ScannedVideo StoredJson::video(const QString &text)
 
 QString StoredJson::ofSong(const ScannedSong &song)
 {
-    return toText(toObject(song, kSongFields));
+    const QString plain = plainText(song, kSongFields);
+    return !plain.isEmpty() ? plain : toText(toObject(song, kSongFields));
 }
 
 ScannedSong StoredJson::song(const QString &text)

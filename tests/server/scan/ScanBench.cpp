@@ -5,11 +5,14 @@
 
 #include <QFileInfo>
 
+#include <sys/resource.h>
+
 FileFacts CountingReader::read(const FileTask &task, const MediaDeadline &deadline)
 {
     {
         std::unique_lock lock(m_mutex);
         m_opened << task.path;
+        m_nice = ::getpriority(PRIO_PROCESS, 0);
         if (QFileInfo(task.path).fileName().startsWith("stuck")) {
             ++m_held;
             m_released.wait(lock, [this] { return m_open; });
@@ -28,6 +31,12 @@ QStringList CountingReader::takeOpened()
     opened.swap(m_opened);
     opened.sort();
     return opened;
+}
+
+int CountingReader::takenNice() const
+{
+    std::lock_guard lock(m_mutex);
+    return m_nice;
 }
 
 int CountingReader::held() const

@@ -25,6 +25,8 @@ public:
 
     FileFacts read(const FileTask &task, const MediaDeadline &deadline) override;
     QStringList takeOpened();
+    // How far behind others the thread stood that read last, as the system counts it.
+    int takenNice() const;
     // Threads that are held up.
     int held() const;
     void release();
@@ -34,6 +36,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_released;
     QStringList m_opened;
+    int m_nice{0};
     int m_held{0};
     bool m_open{false};
 };

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <taglib/mpegfile.h>
 
@@ -108,6 +109,27 @@ TEST_F(ScannerTest, TakesANewCoverWithoutOpeningTheSongs)
     ASSERT_TRUE(QFile::remove(m_bench.path("A/Folder.JPG")));
     m_bench.scanMusic();
     EXPECT_EQ(m_store.song(m_bench.path("A/one.mp3")).poster, "");
+}
+
+TEST_F(ScannerTest, FilesAreReadBehindAllThatSomebodyWaitsFor)
+{
+    m_bench.sound("A/one.mp3");
+    m_bench.scanMusic();
+    EXPECT_GT(m_bench.reader->takenNice(), ::getpriority(PRIO_PROCESS, 0));
+}
+
+TEST(ScannerPoolTest, AFolderOfMoreFilesThanTheQueueTakesIsReadToItsEnd)
+{
+    constexpr int kFiles = 1100;
+    ProbePool::Limits limits;
+    limits.workers = 1;
+    ScanBench bench(limits);
+    for (int number = 0; number < kFiles; ++number)
+        SampleClips::write(bench.path(QString("A/%1.mp3").arg(number)), "no tags");
+    SampleClips::write(bench.path("B/last.mp3"), "no tags");
+    bench.scanMusic();
+    EXPECT_EQ(bench.reader->takeOpened().size(), kFiles + 1);
+    EXPECT_EQ(bench.store.songs().size(), kFiles + 1);
 }
 
 TEST_F(ScannerTest, ForgetsAFolderThatIsGone)

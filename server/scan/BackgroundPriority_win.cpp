@@ -1,0 +1,8 @@
+#include "BackgroundPriority.h"
+
+#include <windows.h>
+
+void BackgroundPriority::takeForThread()
+{
+    ::SetThreadPriority(::GetCurrentThread(), THREAD_PRIORITY_LOWEST);
+}

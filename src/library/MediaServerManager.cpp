@@ -291,7 +291,7 @@ QString MediaServerManager::lookupEpisodeByPath(const QString &path) const
     return m_machine->videoCache.episodeByPath(path);
 }
 
-QString MediaServerManager::playPath(const QString &path) const
+QString MediaServerManager::playPath(const QString &path)
 {
     return MediaPath::resolveMediaPath(path);
 }

@@ -94,8 +94,9 @@ public:
     [[nodiscard]] const MusicCache &music() const;
     // The id of the episode that lies there; empty when none does.
     [[nodiscard]] QString lookupEpisodeByPath(const QString &path) const;
-    // The form of a path that the engine can open: of a disc in the library its folder.
-    [[nodiscard]] QString playPath(const QString &path) const;
+    // The form of a path that the engine can open: of a disc in the library its folder. No server is needed:
+    // a film of the command line plays before there is one.
+    [[nodiscard]] static QString playPath(const QString &path);
 
     // ---- requests beside the lists: choices of the filters, the scraper, removals
     [[nodiscard]] const VideoProtocol &videoRequests() const;

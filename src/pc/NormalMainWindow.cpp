@@ -61,7 +61,7 @@ constexpr int k3dAfterMs = 1000;
 
 PlaySourcePath sourcePaths()
 {
-    return {[](const QString &path) { return MediaServerManager::instance()->playPath(path); },
+    return {[](const QString &path) { return MediaServerManager::playPath(path); },
             [](const QString &drive) {
                 return drive.size() == 1 ? DriveLetters::instance()->volumeLabel(drive.at(0)) : QString();
             }};
@@ -85,6 +85,7 @@ NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     makeViews();
     makeMenu();
     m_setUp = new DeferredSetup(m_playView->surface(), this);
+    m_setUp->start();
     m_control = new NormalPlayControl(m_settings, *m_setUp, sourcePaths(), this);
     m_overlays = new PlayOverlays(this, m_stack, new FolderEpisodes(this));
     m_dialogs = new PcDialogs(this);
@@ -104,6 +105,7 @@ NormalMainWindow::NormalMainWindow(QWidget *parent, bool showNow)
     retranslate();
     showRecent();
     restoreWindow(showNow);
+    m_setUp->goOn();
     QTimer::singleShot(0, this, &NormalMainWindow::slot_configLater);
 }
 
@@ -157,7 +159,9 @@ void NormalMainWindow::connectParts()
 
     connect(m_setUp, &DeferredSetup::playerMade, this, &NormalMainWindow::onPlayerMade);
     connect(m_setUp, &DeferredSetup::ready, this, &NormalMainWindow::onEngineReady);
-    connect(m_setUp, &DeferredSetup::failed, this, &NormalMainWindow::slot_showInitFailDialog);
+    // Not before the window stands: the dialog turns an event loop of its own.
+    connect(m_setUp, &DeferredSetup::failed, this, &NormalMainWindow::slot_showInitFailDialog,
+            Qt::QueuedConnection);
 
     // Called where they are emitted: the worker keeps their order, and of sizes and of seeks that come while
     // the engine is busy the last.
@@ -326,7 +330,6 @@ void NormalMainWindow::retranslate()
 
 void NormalMainWindow::slot_configLater()
 {
-    m_setUp->start();
     m_overlays->playlist()->queue()->load();
     m_session->open(winId());
     for (const char *event : {"ProcessOpened", "ProcessOpenedUser"})

@@ -26,10 +26,11 @@ void DeferredSetup::start()
     m_worker.start();
 }
 
-// After each step of the worker, on the GUI thread.
+// After each step of the worker, on the GUI thread. The worker's own word of a step that was taken up before
+// it came finds it at the next one.
 void DeferredSetup::goOn()
 {
-    if (m_outcome != Pending)
+    if (m_outcome != Pending || !m_started || !m_worker.isFinished())
         return;
     if (m_toolStep) {
         const bool isReady = !m_player->rendererFailed();

@@ -27,6 +27,9 @@ public:
 
     // Begins; once. The signals tell the rest.
     void start();
+    // Takes the next step now if the worker has done its own, without a turn of the event loop between them:
+    // for a window that is complete before its first turn.
+    void goOn();
 
     // The program's player once it has been made; null before.
     [[nodiscard]] QPlayer *player() const { return m_player; }
@@ -51,7 +54,6 @@ private:
     static void setUpOutput(void *player);
     static void applyPreferences(QPlayer &output);
     static void applyWaitingSound(void *player);
-    void goOn();
     void finish(Outcome outcome);
 
     QPointer<QWidget> m_surface;

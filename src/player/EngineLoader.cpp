@@ -6,10 +6,18 @@
 #include <QDebug>
 #include <QFileInfo>
 
+#include <future>
 #include <system_error>
 #include <thread>
 
 namespace {
+
+// The reading ahead, once it has begun.
+std::shared_future<void> &readAhead()
+{
+    static std::shared_future<void> done;
+    return done;
+}
 
 QString defaultFile()
 {
@@ -31,15 +39,17 @@ LibraryEngineLoader::LibraryEngineLoader(const QString &file)
 
 void LibraryEngineLoader::warmUp()
 {
-    const auto read = [file = defaultFile()] {
+    std::packaged_task<void()> read([file = defaultFile()] {
         const QFileInfo named(file);
         LibraryNeeds::load(
             named.isFile() ? file : QStringLiteral("%1/lib%2.so").arg(named.path(), named.fileName()));
         // Not unloaded at the end of the object: whoever plays takes it over.
         QLibrary(file).load();
-    };
+    });
+    const std::shared_future<void> done = read.get_future();
     try {
-        std::thread(read).detach();
+        std::thread(std::move(read)).detach();
+        readAhead() = done;
     } catch (const std::system_error &error) {
         qInfo() << "[Engine] nothing is read ahead:" << error.what();
     }
@@ -47,6 +57,9 @@ void LibraryEngineLoader::warmUp()
 
 bool LibraryEngineLoader::load()
 {
+    // Loaded meanwhile it would come with all that is not there yet in one call.
+    if (readAhead().valid())
+        readAhead().wait();
     if (!m_library.load()) {
         m_error = m_library.errorString();
         return false;

@@ -151,8 +151,8 @@ bool TvPlayingWidget::startPlay(const QString &path)
 
 void TvPlayingWidget::play(const QString &path)
 {
-    const PlaySourcePath paths(
-        [](const QString &asked) { return MediaServerManager::instance()->playPath(asked); }, nullptr);
+    const PlaySourcePath paths([](const QString &asked) { return MediaServerManager::playPath(asked); },
+                               nullptr);
     const PlaySource source = paths.resolve(path);
     m_isPlayingHere = true;
     const SettingsManager &settings = *SettingsManager::instance();

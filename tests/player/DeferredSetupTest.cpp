@@ -7,6 +7,8 @@
 #include "player/DeferredSetup.h"
 #include "player/QPlayer.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -24,6 +26,7 @@ protected:
     ~DeferredSetupTest() override
     {
         fakeEngine().release("IVDPlayTool::audioDevices");
+        fakeEngine().release("IVDPlayTool::isValid");
         m_setUp.cancel();
         QPlayer::releaseInstance();
         for (const char *key : {SettingsKeys::PC_EnableHardware, SettingsKeys::PC_DefaultAudioDeviceName,
@@ -55,6 +58,39 @@ TEST_F(DeferredSetupTest, TheEngineHasThePreferencesWhenItIsReady)
     EXPECT_GE(place("IVDPlayTool::setRegion(1)"), 0);
     EXPECT_GT(place("IVDPlayTool::enableHardwareDecoding(false)"), place("IVDPlayTool::isValid()"));
     EXPECT_TRUE(m_setUp.waitUntilDone());
+}
+
+TEST_F(DeferredSetupTest, AWindowThatIsCompleteNeedNotWaitForItsFirstTurn)
+{
+    m_setUp.goOn();
+    EXPECT_EQ(m_setUp.player(), nullptr) << "nothing has begun";
+    m_setUp.start();
+    QDeadlineTimer deadline(5000);
+    while (m_ready.isEmpty() && !deadline.hasExpired())
+        m_setUp.goOn();
+    ASSERT_EQ(m_ready.count(), 1);
+    EXPECT_GE(place("IVDPlayTool::setRegion(1)"), 0);
+    // What the worker said meanwhile comes now and is stale.
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_ready.count(), 1);
+    EXPECT_EQ(m_failed.count(), 0);
+    EXPECT_TRUE(m_setUp.waitUntilDone());
+}
+
+TEST_F(DeferredSetupTest, AStaleWordOfTheFirstStepDoesNotEndTheSecond)
+{
+    fakeEngine().hold("IVDPlayTool::isValid");
+    m_setUp.start();
+    QDeadlineTimer deadline(5000);
+    while (!m_setUp.player() && !deadline.hasExpired())
+        m_setUp.goOn();
+    ASSERT_EVENTUALLY(place("IVDPlayTool::isValid()") >= 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_ready.count(), 0);
+    EXPECT_EQ(m_failed.count(), 0);
+    fakeEngine().release("IVDPlayTool::isValid");
+    ASSERT_EVENTUALLY(m_ready.count() == 1);
+    EXPECT_EQ(m_failed.count(), 0);
 }
 
 TEST_F(DeferredSetupTest, AnOutputThatFailsGetsNoPreferences)

@@ -76,7 +76,7 @@ TEST_F(LibraryEndToEndTest, FilmsAreWhatTheirNamesAndSidecarsSay)
         film.year = row.year;
         film.path = base + row.path;
         expectSame(item(VideoCache::Movies, film.title), film);
-        EXPECT_EQ(m_manager->playPath(film.path), base + row.playPath);
+        EXPECT_EQ(MediaServerManager::playPath(film.path), base + row.playPath);
     }
 }
 

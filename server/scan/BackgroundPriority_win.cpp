@@ -4,5 +4,5 @@
 
 void BackgroundPriority::takeForThread()
 {
-    ::SetThreadPriority(::GetCurrentThread(), THREAD_PRIORITY_LOWEST);
+    ::SetThreadPriority(::GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL);
 }

@@ -102,7 +102,7 @@ function(quorin_include_root target name directory scope)
 endfunction()
 
 # Headers are compiled before the rest once for the program and once for the tests, and every target of a kind uses the
-# same: 160 MB and half a minute for each of 70 targets is what it costs otherwise. The one who carries them links no
+# same: they take 160 MB, which each of some 70 targets had of its own otherwise. The one who carries them links no
 # more than all who use them do, so that no definition of his is missing there.
 function(quorin_precompiled_headers name)
     cmake_parse_arguments(ARG "" "" "LINK;HEADERS" ${ARGN})

@@ -159,8 +159,8 @@ bool append(QString *text, int value)
     return true;
 }
 
-// Of members without anything to escape, what toText(toObject()) makes, in a sixth of the time: a first scan
-// of music spent a tenth of its processor time there. Empty where there is something to escape.
+// Of members without anything to escape, what toText(toObject()) makes, on which a first scan of music spent
+// a tenth of its processor time. Empty where there is something to escape.
 template<class Record, size_t Count>
 QString plainText(const Record &record, const Field<Record> (&sortedFields)[Count])
 {

@@ -1,3 +1,5 @@
+#include "PlayQueueRig.h"
+
 #include "queue/PlayQueueModel.h"
 
 #include <QAbstractItemModelTester>
@@ -13,16 +15,6 @@
 namespace {
 
 using Model = PlayQueueModel;
-
-PlayerDisc disc(int titles, int main)
-{
-    PlayerDisc made;
-    made.isValid = true;
-    made.mainTitle = main;
-    for (int number = 1; number <= titles; ++number)
-        made.titles.append({number, number * 60000, 1, {}});
-    return made;
-}
 
 class Queues : public testing::Test {
 protected:
